@@ -1,0 +1,144 @@
+#include "companion/import/bookmark_file.h"
+
+#include <algorithm>
+#include <span>
+
+#include "companion/import/html_text.h"
+#include "companion/import/unicode.h"
+
+namespace magpie {
+
+namespace {
+
+constexpr std::string_view rootGroup = "Bookmarks";
+
+// Reads the texts of a page: its charset first, then tags and entities.
+class PageTexts {
+public:
+    PageTexts(unsigned pageCodePage, unsigned codePage, CodePageCalls calls)
+        : utf8_(pageCodePage == 0 || pageCodePage == codePageUtf8),
+          reader_(utf8_ ? codePage : pageCodePage, calls) {}
+
+    // Each is good until its next call.
+    const std::string& title(std::string_view html) {
+        title_.clear();
+        appendReadable(title_, decoded(html));
+        return title_;
+    }
+
+    const std::string& address(std::string_view value) {
+        address_.clear();
+        appendWithoutEntities(address_, decoded(value), HtmlPlace::attribute);
+        return address_;
+    }
+
+private:
+    std::string_view decoded(std::string_view bytes) {
+        if (isAscii(bytes) || (utf8_ && isUtf8(bytes))) return bytes;
+        decoded_.clear();
+        reader_.append(decoded_, bytes);
+        return decoded_;
+    }
+
+    bool utf8_;
+    CodePageReader reader_;
+    std::string decoded_;
+    std::string title_;
+    std::string address_;
+};
+
+bool allUtf8(const BookmarkPage& page) {
+    const auto utf8Link = [](const BookmarkLink& link) {
+        return isUtf8(link.title) && isUtf8(link.address);
+    };
+    const auto utf8Folder = [](const BookmarkFolder& folder) { return isUtf8(folder.title); };
+    return std::ranges::all_of(page.links, utf8Link) &&
+           std::ranges::all_of(page.folders, utf8Folder);
+}
+
+// The places of the links, folder by folder.
+class LinksByFolder {
+public:
+    explicit LinksByFolder(const BookmarkPage& page)
+        : begins_(page.folders.size() + 1), places_(page.links.size()) {
+        for (const BookmarkLink& link : page.links) ++begins_[link.folder + 1];
+        for (std::size_t i = 1; i < begins_.size(); ++i) begins_[i] += begins_[i - 1];
+        std::vector<std::size_t> next(begins_);
+        for (std::size_t i = 0; i < page.links.size(); ++i) {
+            places_[next[page.links[i].folder]++] = i;
+        }
+    }
+
+    [[nodiscard]] std::span<const std::size_t> of(std::size_t folder) const {
+        return std::span(places_).subspan(begins_[folder], begins_[folder + 1] - begins_[folder]);
+    }
+
+private:
+    std::vector<std::size_t> begins_;
+    std::vector<std::size_t> places_;
+};
+
+// The names of the folders' groups, asked for in the page's order: a folder begins behind the one
+// it lies in and ahead of any that does not lie there.
+class GroupNames {
+public:
+    GroupNames(const BookmarkPage& page, PageTexts& texts) : page_(page), texts_(texts) {}
+
+    const std::string& enter(std::size_t folder) {
+        while (!way_.empty() && way_.back().folder != page_.folders[folder].outer) leave();
+        way_.push_back({folder, name_.size()});
+        if (!name_.empty()) name_ += betweenFolders;
+        name_ += nameInFolder({}, texts_.title(page_.folders[folder].title));
+        return name_;
+    }
+
+private:
+    struct Step {
+        std::size_t folder;
+        std::size_t outerSize;  // of the name without it
+    };
+
+    void leave() {
+        name_.resize(way_.back().outerSize);
+        way_.pop_back();
+    }
+
+    const BookmarkPage& page_;
+    PageTexts& texts_;
+    std::vector<Step> way_;
+    std::string name_;
+};
+
+void handOverPage(const BookmarkPage& page, PageTexts texts, HandOver& handOver) {
+    const LinksByFolder links(page);
+    GroupNames names(page, texts);
+    handOver.enterRoot(rootGroup);
+    for (std::size_t folder = 0; folder < page.folders.size(); ++folder) {
+        if (folder != 0) handOver.enterFolder(names.enter(folder));
+        for (const std::size_t place : links.of(folder)) {
+            const BookmarkLink& link = page.links[place];
+            handOver.link(texts.title(link.title), texts.address(link.address));
+        }
+    }
+    for (std::size_t i = 0; i < page.withoutAddress; ++i) handOver.skipWithoutAddress();
+}
+
+}  // namespace
+
+void importBookmarkBytes(std::string_view bytes, unsigned codePage, CodePageCalls calls,
+                         HandOver& handOver) {
+    const FileStart start = fileStart(bytes);
+    std::string converted;
+    std::string_view text = start.rest;
+    if (start.text == FileText::utf16LittleEndian || start.text == FileText::utf16BigEndian) {
+        converted = utf8OfUtf16(text, start.text == FileText::utf16BigEndian);
+        text = converted;
+    }
+    const BookmarkPage page = readBookmarkPage(text);
+    unsigned read = page.codePage;
+    if (start.text != FileText::bytes) read = codePageUtf8;
+    if (read == 0) read = allUtf8(page) ? codePageUtf8 : codePage;
+    handOverPage(page, PageTexts(read, codePage, calls), handOver);
+}
+
+}  // namespace magpie

@@ -1,0 +1,54 @@
+#include "companion/import/hand_over.h"
+
+#include <algorithm>
+
+namespace magpie {
+
+namespace {
+
+constexpr std::string_view nameless = "Untitled";
+
+bool isBlank(std::string_view text) {
+    return std::ranges::all_of(text,
+                               [](char byte) { return static_cast<unsigned char>(byte) <= ' '; });
+}
+
+}  // namespace
+
+void HandOver::enter(std::string_view groupName, bool root) {
+    groupName_ = groupName;
+    root_ = root;
+    begun_ = false;
+}
+
+void HandOver::link(std::string_view title, std::string_view address) {
+    const std::string url = HostText::address(address);
+    if (url.empty()) return skipWithoutAddress();
+    if (full_ || !beginGroup()) return skipWithoutRoom();
+    std::string name = texts_.title(title);
+    if (name.empty()) name = url;
+    full_ = !sink_.BungURL(name, url);
+    if (full_) return skipWithoutRoom();
+    ++counts_.links;
+}
+
+// True when the links' group is there.
+bool HandOver::beginGroup() {
+    if (begun_) return true;
+    std::string name = texts_.groupName(groupName_);
+    if (name.empty()) name = nameless;
+    full_ = !sink_.NewGroup(name);
+    if (full_) return false;
+    if (root_) sink_.storeLastRootOwner();
+    begun_ = true;
+    ++counts_.groups;
+    return true;
+}
+
+std::string nameInFolder(std::string_view outer, std::string_view inner) {
+    std::string name(outer);
+    if (!outer.empty()) name += betweenFolders;
+    return name.append(isBlank(inner) ? nameless : inner);
+}
+
+}  // namespace magpie

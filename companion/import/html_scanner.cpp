@@ -1,0 +1,168 @@
+#include "companion/import/html_scanner.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace magpie {
+
+namespace {
+
+constexpr std::size_t npos = std::string_view::npos;
+
+// NUL and the other control characters stand between the parts of a tag like a blank.
+bool isBlank(char byte) {
+    return static_cast<unsigned char>(byte) <= ' ';
+}
+
+bool isLetter(char byte) {
+    return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+}
+
+char lowerCase(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
+// As std::string_view::find, which is slow at single bytes.
+std::size_t findByte(std::string_view text, char byte, std::size_t from) {
+    if (from >= text.size()) return npos;
+    const void* const found = std::memchr(text.data() + from, byte, text.size() - from);
+    return found == nullptr
+               ? npos
+               : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+}
+
+}  // namespace
+
+bool sameTagName(std::string_view name, std::string_view lower) {
+    return name.size() == lower.size() &&
+           std::equal(name.begin(), name.end(), lower.begin(),
+                      [](char a, char b) { return lowerCase(a) == b; });
+}
+
+bool HtmlTag::is(std::string_view lower) const {
+    return sameTagName(name, lower);
+}
+
+const HtmlAttribute* HtmlTag::find(std::string_view lower) const {
+    const auto found = std::ranges::find_if(attributes, [lower](const HtmlAttribute& attribute) {
+        return sameTagName(attribute.name, lower);
+    });
+    return found == attributes.end() ? nullptr : &*found;
+}
+
+const HtmlTag* HtmlScanner::next() {
+    while (!atEnd()) {
+        at_ = findByte(page_, '<', at_);
+        if (at_ == npos) at_ = page_.size();
+        if (!atEnd() && readMarkup()) return &tag_;
+    }
+    return nullptr;
+}
+
+// Stands at a "<"; false when it is a part of the text.
+bool HtmlScanner::readMarkup() {
+    tag_.begin = at_++;
+    if (atEnd()) return false;
+    const bool closing = page_[at_] == '/';
+    const std::size_t name = at_ + (closing ? 1 : 0);
+    if (name < page_.size() && isLetter(page_[name])) {
+        at_ = name;
+        readTag(closing);
+        return true;
+    }
+    if (!closing && page_[at_] != '!' && page_[at_] != '?') return false;
+    skipDeclaration();
+    tag_.name = {};
+    tag_.attributes.clear();
+    tag_.closing = tag_.cut = false;
+    tag_.end = at_;
+    return true;
+}
+
+void HtmlScanner::readTag(bool closing) {
+    const std::size_t name = at_;
+    while (!atEnd() && !isBlank(page_[at_]) && page_[at_] != '/' && page_[at_] != '>') ++at_;
+    tag_.name = page_.substr(name, at_ - name);
+    tag_.closing = closing;
+    tag_.attributes.clear();
+    for (;;) {
+        while (!atEnd() && (isBlank(page_[at_]) || page_[at_] == '/')) ++at_;
+        if (atEnd() || page_[at_] == '>') break;
+        readAttribute();
+    }
+    tag_.cut = atEnd();
+    tag_.end = tag_.cut ? at_ : ++at_;
+}
+
+void HtmlScanner::readAttribute() {
+    const std::size_t name = at_++;  // a "=" here belongs to the name
+    while (!atEnd() && !isBlank(page_[at_]) && page_[at_] != '/' && page_[at_] != '>' &&
+           page_[at_] != '=') {
+        ++at_;
+    }
+    HtmlAttribute attribute{page_.substr(name, at_ - name), {}};
+    skipBlanks();
+    if (!atEnd() && page_[at_] == '=') {
+        ++at_;
+        skipBlanks();
+        attribute.value = readValue();
+    }
+    tag_.attributes.push_back(attribute);
+}
+
+std::string_view HtmlScanner::readValue() {
+    if (atEnd()) return {};
+    const char first = page_[at_];
+    if (first == '"' || first == '\'') return readQuoted(first);
+    const std::size_t begin = at_;
+    while (!atEnd() && !isBlank(page_[at_]) && page_[at_] != '>') ++at_;
+    return page_.substr(begin, at_ - begin);
+}
+
+std::string_view HtmlScanner::readQuoted(char quote) {
+    const std::size_t begin = ++at_;
+    bool& none = noQuote_[quote == '"' ? 1 : 0];
+    const std::size_t end = none ? npos : findByte(page_, quote, begin);
+    if (end != npos) {
+        at_ = end + 1;
+        return page_.substr(begin, end - begin);
+    }
+    none = true;
+    while (!atEnd() && page_[at_] != '>' && page_[at_] != '\n' && page_[at_] != '\r') ++at_;
+    return page_.substr(begin, at_ - begin);
+}
+
+// Stands behind the "<".
+void HtmlScanner::skipDeclaration() {
+    if (page_.substr(at_).starts_with("!--")) {
+        at_ += 3;
+        // Two of the hyphens that open a comment may close it.
+        const std::size_t close = noCommentEnd_ ? npos : page_.find("-->", at_ - 2);
+        if (close != npos) {
+            at_ = close + 3;
+            return;
+        }
+        noCommentEnd_ = true;
+    }
+    const std::size_t end = findByte(page_, '>', at_);
+    at_ = end == npos ? page_.size() : end + 1;
+}
+
+void HtmlScanner::skipRawText(std::string_view lowerName) {
+    if (std::ranges::find(noEndOf_, lowerName) != noEndOf_.end()) return;
+    for (std::size_t at = findByte(page_, '<', at_); at != npos;
+         at = findByte(page_, '<', at + 1)) {
+        const std::string_view rest = page_.substr(at + 1);
+        if (rest.starts_with('/') && sameTagName(rest.substr(1, lowerName.size()), lowerName)) {
+            at_ = at;
+            return;
+        }
+    }
+    noEndOf_.push_back(lowerName);
+}
+
+void HtmlScanner::skipBlanks() {
+    while (!atEnd() && isBlank(page_[at_])) ++at_;
+}
+
+}  // namespace magpie

@@ -1,0 +1,214 @@
+#!/usr/bin/env python3
+"""Writes code_page_tables.cpp, letter_tables.cpp and entity_table.cpp beside itself, from the
+Unicode data and the encodings that come with Python. Run by hand when a table is to change."""
+import html.entities
+import os
+import unicodedata
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+
+# Code page number, Python's codec, the labels that pages use for it.
+PAGES = [
+    (866, "cp866", "ibm866 cp866 866"),
+    (874, "cp874", "windows-874 tis-620 iso-8859-11 dos-874"),
+    (1250, "cp1250", "windows-1250 cp1250 x-cp1250"),
+    (1251, "cp1251", "windows-1251 cp1251 x-cp1251"),
+    (1252, "cp1252", "windows-1252 cp1252 x-cp1252 iso-8859-1 iso8859-1 latin1 latin-1 us-ascii ascii l1"),
+    (1253, "cp1253", "windows-1253 cp1253 x-cp1253"),
+    (1254, "cp1254", "windows-1254 cp1254 x-cp1254 iso-8859-9 latin5"),
+    (1255, "cp1255", "windows-1255 cp1255 x-cp1255"),
+    (1256, "cp1256", "windows-1256 cp1256 x-cp1256"),
+    (1257, "cp1257", "windows-1257 cp1257 x-cp1257"),
+    (1258, "cp1258", "windows-1258 cp1258 x-cp1258"),
+    (10000, "mac_roman", "macintosh x-mac-roman mac"),
+    (10007, "mac_cyrillic", "x-mac-cyrillic x-mac-ukrainian"),
+    (20866, "koi8_r", "koi8-r koi8 koi"),
+    (21866, "koi8_u", "koi8-u koi8-ru"),
+    (28592, "iso8859_2", "iso-8859-2 iso8859-2 latin2 l2"),
+    (28593, "iso8859_3", "iso-8859-3 latin3"),
+    (28594, "iso8859_4", "iso-8859-4 latin4"),
+    (28595, "iso8859_5", "iso-8859-5 cyrillic"),
+    (28596, "iso8859_6", "iso-8859-6 arabic"),
+    (28597, "iso8859_7", "iso-8859-7 greek"),
+    (28598, "iso8859_8", "iso-8859-8 iso-8859-8-i hebrew"),
+    (28600, "iso8859_10", "iso-8859-10 latin6"),
+    (28603, "iso8859_13", "iso-8859-13"),
+    (28604, "iso8859_14", "iso-8859-14"),
+    (28605, "iso8859_15", "iso-8859-15 latin9"),
+    (28606, "iso8859_16", "iso-8859-16"),
+]
+
+# What looks alike, or is written so without the letter, and no decomposition tells.
+ALIKE = {
+    "Ø": "O", "ø": "o", "Đ": "D", "đ": "d", "Ł": "L", "ł": "l", "Ħ": "H", "ħ": "h", "Ŧ": "T",
+    "ŧ": "t", "ı": "i", "Ŋ": "N", "ŋ": "n", "ĸ": "k", "ß": "ss", "ẞ": "SS", "Æ": "AE",
+    "æ": "ae", "Œ": "OE", "œ": "oe", "Þ": "Th", "þ": "th", "Ð": "D", "ð": "d", "ƒ": "f",
+    "Ɖ": "D", "ƀ": "b", "ə": "e", "Ə": "E", "ɨ": "i",
+    "‐": "-", "‑": "-", "‒": "-", "–": "-", "—": "-", "―": "-", "−": "-", "⁃": "-",
+    "‘": "'", "’": "'", "‚": "'", "‛": "'", "′": "'", "ʼ": "'", "ʹ": "'", "ˈ": "'",
+    "“": '"', "”": '"', "„": '"', "‟": '"', "″": '"', "‹": "<", "›": ">", "«": '"', "»": '"',
+    "•": "*", "●": "*", "∙": "*", "‣": "*", "∗": "*", "★": "*", "☆": "*", "×": "x", "÷": "/",
+    "⁄": "/", "∕": "/", "∶": ":", "∣": "|", "│": "|", "∼": "~", "≈": "~", "€": "EUR", "¦": "|",
+    "¢": "c", "£": "L", "¥": "Y", "©": "(c)", "®": "(R)", "±": "+-", "·": "*", "¡": "!",
+    "¿": "?", "†": "+", "‰": "%", "\u2028": " ", "\u2029": " ", "\u00a0": " ", "→": "->",
+    "←": "<-", "⇒": "=>", "≤": "<=", "≥": ">=", "≠": "!=",
+}
+
+
+def u16(text):
+    units = text.encode("utf-16-be")
+    return "".join("\\x%02X%02X" % (units[i], units[i + 1]) for i in range(0, len(units), 2))
+
+
+def literal(text, width):
+    """A u"" literal in pieces; a hexadecimal escape would take the letters behind it as well."""
+    return "".join('\n    u"%s"' % u16(text[i:i + width]) for i in range(0, len(text), width))
+
+
+def write(name, lines):
+    with open(os.path.join(HERE, name), "w", encoding="ascii", newline="\n") as file:
+        file.write("// Written by make_tables.py.\n// clang-format off\n")
+        file.write("\n".join(lines) + "\n")
+
+
+def upper_half(codec):
+    text = ""
+    for byte in range(128, 256):
+        try:
+            text += bytes([byte]).decode(codec)
+        except UnicodeDecodeError:
+            text += chr(byte) if byte < 0xA0 else "\ufffd"
+    assert len(text) == 128 and all(ord(c) < 0x10000 for c in text), codec
+    return text
+
+
+def code_pages():
+    lines = ['#include "companion/import/code_page_tables.h"', "", "namespace magpie {", "",
+             "const std::array<CodePageTable, %d> codePageTables{{" % len(PAGES)]
+    for number, codec, labels in PAGES:
+        lines.append('    {%d, "%s",%s},' % (number, labels, literal(upper_half(codec), 14)))
+    lines += ["}};", "", "}  // namespace magpie"]
+    write("code_page_tables.cpp", lines)
+    header("code_page_tables.h", """// Code page tables: the upper half of each code page of one byte to a character that bookmarks are
+// written in.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace magpie {
+
+struct CodePageTable {
+    unsigned number;                // as Windows numbers it
+    std::string_view labels;        // the names that pages call it by, a blank between them
+    std::u16string_view upperHalf;  // the characters of 80 to FF; U+FFFD where there is none
+};
+
+extern const std::array<CodePageTable, %d> codePageTables;  // in order of number
+
+}  // namespace magpie
+""" % len(PAGES))
+
+
+def header(name, text):
+    with open(os.path.join(HERE, name), "w", encoding="ascii", newline="\n") as file:
+        file.write(text)
+
+
+def wanted(code):
+    return (0xA0 <= code < 0x600 or 0x1E00 <= code < 0x2100 or 0x2100 <= code < 0x2190 or
+            0x2460 <= code < 0x2500 or code == 0x3000 or 0xFB00 <= code < 0xFB07 or
+            0xFF01 <= code < 0xFF5F)
+
+
+def rows(items, form, across):
+    items = [form(item) for item in items]
+    return ["    " + " ".join(items[i:i + across]) for i in range(0, len(items), across)]
+
+
+def letters():
+    composed = []
+    alike = dict(ALIKE)
+    for code in filter(wanted, range(0x10000)):
+        letter = chr(code)
+        parts = unicodedata.decomposition(letter).split()
+        if len(parts) == 2 and unicodedata.combining(chr(int(parts[1], 16))):
+            composed.append((code, int(parts[0], 16), int(parts[1], 16)))
+        elif parts and letter not in alike:
+            plain = "".join(c for c in unicodedata.normalize("NFKD", letter)
+                            if not unicodedata.combining(c)).replace("\u2044", "/")
+            if plain.strip() or plain == " ":
+                alike[letter] = plain
+    alike = sorted((ord(letter), text) for letter, text in alike.items())
+    composed.sort()
+    lines = ['#include "companion/import/letter_tables.h"', "", "namespace magpie {", "",
+             "const std::array<ComposedLetter, %d> composedLetters{{" % len(composed)]
+    lines += rows(composed, lambda row: "{0x%04X, 0x%04X, 0x%04X}," % row, 4)
+    lines += ["}};", "", "const std::array<AlikeText, %d> alikeTexts{{" % len(alike)]
+    lines += rows(alike, lambda row: '{0x%04X, u"%s"},' % (row[0], u16(row[1])), 3)
+    lines += ["}};", "", "}  // namespace magpie"]
+    write("letter_tables.cpp", lines)
+    header("letter_tables.h", """// Letter tables: of which letter and mark a letter is made, and what a character is written as where
+// it is not to be had.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace magpie {
+
+struct ComposedLetter {
+    char16_t letter;
+    char16_t base;
+    char16_t mark;
+};
+
+struct AlikeText {
+    char16_t character;
+    std::u16string_view text;
+};
+
+extern const std::array<ComposedLetter, %d> composedLetters;  // in order of letter
+extern const std::array<AlikeText, %d> alikeTexts;            // in order of character
+
+}  // namespace magpie
+""" % (len(composed), len(alike)))
+
+
+def entities():
+    # Those that stand in HTML 4, and the older ones that hold without a semicolon.
+    loose = {name for name in html.entities.html5 if not name.endswith(";")}
+    named = {name: chr(code) for name, code in html.entities.name2codepoint.items()}
+    for name in loose | {"apos"}:
+        named[name] = html.entities.html5[name + ";"]
+    table = sorted(named.items())
+    lines = ['#include "companion/import/entity_table.h"', "", "namespace magpie {", "",
+             "const std::array<NamedEntity, %d> namedEntities{{" % len(table)]
+    lines += rows(table, lambda row: '{"%s", 0x%04X, %s},' %
+                  (row[0], ord(row[1]), "true" if row[0] in loose else "false"), 3)
+    lines += ["}};", "", "}  // namespace magpie"]
+    write("entity_table.cpp", lines)
+    header("entity_table.h", """// Entity table: the named characters of HTML 4.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace magpie {
+
+struct NamedEntity {
+    std::string_view name;
+    char16_t character;
+    bool loose;  // holds without its semicolon, also right before other letters
+};
+
+extern const std::array<NamedEntity, %d> namedEntities;  // in order of name
+
+}  // namespace magpie
+""" % len(table))
+
+
+if __name__ == "__main__":
+    code_pages()
+    letters()
+    entities()

@@ -1,0 +1,9 @@
+#include "config/version.h"
+
+namespace magpie {
+
+Version programVersion() {
+    return {MAGPIE_VERSION};
+}
+
+}  // namespace magpie

@@ -1,0 +1,93 @@
+#include "entries/bulk_commands.h"
+
+#include <string>
+
+#include "browser/send_url.h"
+#include "core/misc.h"
+#include "core/state.h"
+#include "entries/bulk_list.h"
+#include "entries/frm_move.h"
+#include "entries/row_match.h"
+#include "entries/selection_walk.h"
+#include "mainwindow/form3.h"
+#include "mainwindow/status_panel.h"
+#include "platform/api/constants.h"
+#include "platform/controls/message_box.h"
+#include "platform/runtime/failure.h"
+#include "platform/runtime/word.h"
+
+namespace magpie {
+
+namespace {
+
+constexpr std::uint8_t plainDialog = 1;  // in modalOpen
+
+// A single row goes without a question.
+bool confirmsRemoval(std::int32_t count) {
+    if (count <= 1) return true;
+    std::string question = "Remove ";
+    question.append(std::to_string(count)).append(" items, are you sure?");
+    return MsgBox(question, win::MB_YESNO | win::MB_ICONWARNING, "Confirm Delete") == win::IDYES;
+}
+
+// A flush under the question, or while the walk waits at a row, ends the command, and nothing
+// holds the interface of the next main window.
+bool flushed(win::HWND begun) {
+    if (Form3.loaded() && Form3.hWnd() == begun) return false;
+    modalOpen = 0;
+    return true;
+}
+
+void removeRows(win::HWND begun) {
+    try {
+        RemoveSelected();
+    } catch (const Failure&) {
+        flushed(begun);
+        throw;
+    }
+}
+
+}  // namespace
+
+void mnuRate_Click(int Index) {
+    RateSelected(static_cast<std::int16_t>(Index), false);
+}
+
+void mnuMove_Click() {
+    if (SelectionWalk::waits()) return;
+    setTopMost(Form3, wordFalse);
+    modalOpen = plainDialog;
+    frmMove.showModal();
+    modalOpen = 0;
+    setTopMost(Form3, word(mainOnTop));
+}
+
+// A No leaves the interface held and the main window off its level; the next dialog gives
+// both back.
+void mnuRemove_Click() {
+    if (SelectionWalk::waits()) return;
+    const win::HWND begun = Form3.hWnd();
+    const std::int32_t count = selectedCount();
+    modalOpen = plainDialog;
+    setTopMost(Form3, wordFalse);
+    const bool confirmed = confirmsRemoval(count);
+    if (flushed(begun) || !confirmed) return;
+    removeRows(begun);
+    modalOpen = 0;
+    setTopMost(Form3, word(mainOnTop));
+    UpdatePanel();
+}
+
+void mnuSend_Click(int Index) {
+    constexpr int urlColumn = 1;
+    const std::string url = Form3.ListView1[lvIndex].SelectedItem().SubItem(urlColumn);
+    if (Index == 0) sendURL(url, false);
+    if (Index == 1) sendURL(url, true);
+    if (Form3.loaded()) ++urlsDirty;
+}
+
+void mnuSendFolder_Click() {
+    SendSelectedToFolder();
+}
+
+}  // namespace magpie

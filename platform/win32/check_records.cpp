@@ -1,0 +1,274 @@
+// Every record of the seam against the SDK's: size, and place and size of each member.
+#include <cstddef>
+
+#include "platform/api/comctl32.h"
+#include "platform/api/comdlg32.h"
+#include "platform/api/gdi32.h"
+#include "platform/api/kernel32.h"
+#include "platform/api/oleauto.h"
+#include "platform/api/shell32.h"
+#include "platform/api/user32.h"
+
+// The SDK's base comes first.
+// clang-format off
+#include <windows.h>
+#include <commctrl.h>
+#include <commdlg.h>
+#include <shellapi.h>
+// clang-format on
+
+#define SAME_SIZE(record, native) static_assert(sizeof(win::record) == sizeof(::native), #record)
+#define SAME_MEMBER(record, native, member)                                      \
+    static_assert(offsetof(win::record, member) == offsetof(::native, member) && \
+                      sizeof(win::record::member) == sizeof(::native::member),   \
+                  #record "." #member)
+#define RECORD(record) SAME_SIZE(record, record)
+#define MEMBER(record, member) SAME_MEMBER(record, record, member)
+
+// Plain types
+static_assert(sizeof(win::BOOL) == sizeof(::BOOL) && sizeof(win::LONG) == sizeof(::LONG));
+static_assert(sizeof(win::DWORD) == sizeof(::DWORD) && sizeof(win::WORD) == sizeof(::WORD));
+static_assert(sizeof(win::WPARAM) == sizeof(::WPARAM) && sizeof(win::LPARAM) == sizeof(::LPARAM));
+static_assert(sizeof(win::LRESULT) == sizeof(::LRESULT) && sizeof(win::HWND) == sizeof(::HWND));
+static_assert(sizeof(win::LSTATUS) == sizeof(::LSTATUS) && sizeof(win::ATOM) == sizeof(::ATOM));
+static_assert(sizeof(win::LONG_PTR) == sizeof(::LONG_PTR));
+static_assert(sizeof(win::COLORREF) == sizeof(::COLORREF));
+
+// types.h
+RECORD(POINT);
+MEMBER(POINT, x);
+MEMBER(POINT, y);
+RECORD(SIZE);
+MEMBER(SIZE, cx);
+MEMBER(SIZE, cy);
+RECORD(RECT);
+MEMBER(RECT, left);
+MEMBER(RECT, top);
+MEMBER(RECT, right);
+MEMBER(RECT, bottom);
+RECORD(MSG);
+MEMBER(MSG, hwnd);
+MEMBER(MSG, message);
+MEMBER(MSG, wParam);
+MEMBER(MSG, lParam);
+MEMBER(MSG, time);
+MEMBER(MSG, pt);
+
+// user32.h
+RECORD(WNDCLASSEXA);
+MEMBER(WNDCLASSEXA, cbSize);
+MEMBER(WNDCLASSEXA, style);
+MEMBER(WNDCLASSEXA, lpfnWndProc);
+MEMBER(WNDCLASSEXA, cbClsExtra);
+MEMBER(WNDCLASSEXA, cbWndExtra);
+MEMBER(WNDCLASSEXA, hInstance);
+MEMBER(WNDCLASSEXA, hIcon);
+MEMBER(WNDCLASSEXA, hCursor);
+MEMBER(WNDCLASSEXA, hbrBackground);
+MEMBER(WNDCLASSEXA, lpszMenuName);
+MEMBER(WNDCLASSEXA, lpszClassName);
+MEMBER(WNDCLASSEXA, hIconSm);
+RECORD(CREATESTRUCTA);
+MEMBER(CREATESTRUCTA, lpCreateParams);
+MEMBER(CREATESTRUCTA, hInstance);
+MEMBER(CREATESTRUCTA, hMenu);
+MEMBER(CREATESTRUCTA, hwndParent);
+MEMBER(CREATESTRUCTA, cy);
+MEMBER(CREATESTRUCTA, cx);
+MEMBER(CREATESTRUCTA, y);
+MEMBER(CREATESTRUCTA, x);
+MEMBER(CREATESTRUCTA, style);
+MEMBER(CREATESTRUCTA, lpszName);
+MEMBER(CREATESTRUCTA, lpszClass);
+MEMBER(CREATESTRUCTA, dwExStyle);
+RECORD(WINDOWPLACEMENT);
+MEMBER(WINDOWPLACEMENT, length);
+MEMBER(WINDOWPLACEMENT, flags);
+MEMBER(WINDOWPLACEMENT, showCmd);
+MEMBER(WINDOWPLACEMENT, ptMinPosition);
+MEMBER(WINDOWPLACEMENT, ptMaxPosition);
+MEMBER(WINDOWPLACEMENT, rcNormalPosition);
+RECORD(NMHDR);
+MEMBER(NMHDR, hwndFrom);
+MEMBER(NMHDR, idFrom);
+MEMBER(NMHDR, code);
+RECORD(MENUITEMINFOA);
+MEMBER(MENUITEMINFOA, cbSize);
+MEMBER(MENUITEMINFOA, fMask);
+MEMBER(MENUITEMINFOA, fType);
+MEMBER(MENUITEMINFOA, fState);
+MEMBER(MENUITEMINFOA, wID);
+MEMBER(MENUITEMINFOA, hSubMenu);
+MEMBER(MENUITEMINFOA, hbmpChecked);
+MEMBER(MENUITEMINFOA, hbmpUnchecked);
+MEMBER(MENUITEMINFOA, dwItemData);
+MEMBER(MENUITEMINFOA, dwTypeData);
+MEMBER(MENUITEMINFOA, cch);
+MEMBER(MENUITEMINFOA, hbmpItem);
+
+// gdi32.h
+RECORD(LOGFONTA);
+MEMBER(LOGFONTA, lfHeight);
+MEMBER(LOGFONTA, lfWidth);
+MEMBER(LOGFONTA, lfEscapement);
+MEMBER(LOGFONTA, lfOrientation);
+MEMBER(LOGFONTA, lfWeight);
+MEMBER(LOGFONTA, lfItalic);
+MEMBER(LOGFONTA, lfUnderline);
+MEMBER(LOGFONTA, lfStrikeOut);
+MEMBER(LOGFONTA, lfCharSet);
+MEMBER(LOGFONTA, lfOutPrecision);
+MEMBER(LOGFONTA, lfClipPrecision);
+MEMBER(LOGFONTA, lfQuality);
+MEMBER(LOGFONTA, lfPitchAndFamily);
+MEMBER(LOGFONTA, lfFaceName);
+
+// comctl32.h
+RECORD(INITCOMMONCONTROLSEX);
+MEMBER(INITCOMMONCONTROLSEX, dwSize);
+MEMBER(INITCOMMONCONTROLSEX, dwICC);
+RECORD(LVITEMA);
+MEMBER(LVITEMA, mask);
+MEMBER(LVITEMA, iItem);
+MEMBER(LVITEMA, iSubItem);
+MEMBER(LVITEMA, state);
+MEMBER(LVITEMA, stateMask);
+MEMBER(LVITEMA, pszText);
+MEMBER(LVITEMA, cchTextMax);
+MEMBER(LVITEMA, iImage);
+MEMBER(LVITEMA, lParam);
+MEMBER(LVITEMA, iIndent);
+MEMBER(LVITEMA, iGroupId);
+MEMBER(LVITEMA, cColumns);
+MEMBER(LVITEMA, puColumns);
+MEMBER(LVITEMA, piColFmt);
+MEMBER(LVITEMA, iGroup);
+RECORD(LVCOLUMNA);
+MEMBER(LVCOLUMNA, mask);
+MEMBER(LVCOLUMNA, fmt);
+MEMBER(LVCOLUMNA, cx);
+MEMBER(LVCOLUMNA, pszText);
+MEMBER(LVCOLUMNA, cchTextMax);
+MEMBER(LVCOLUMNA, iSubItem);
+MEMBER(LVCOLUMNA, iImage);
+MEMBER(LVCOLUMNA, iOrder);
+MEMBER(LVCOLUMNA, cxMin);
+MEMBER(LVCOLUMNA, cxDefault);
+MEMBER(LVCOLUMNA, cxIdeal);
+RECORD(LVFINDINFOA);
+MEMBER(LVFINDINFOA, flags);
+MEMBER(LVFINDINFOA, psz);
+MEMBER(LVFINDINFOA, lParam);
+MEMBER(LVFINDINFOA, pt);
+MEMBER(LVFINDINFOA, vkDirection);
+RECORD(NMLISTVIEW);
+MEMBER(NMLISTVIEW, hdr);
+MEMBER(NMLISTVIEW, iItem);
+MEMBER(NMLISTVIEW, iSubItem);
+MEMBER(NMLISTVIEW, uNewState);
+MEMBER(NMLISTVIEW, uOldState);
+MEMBER(NMLISTVIEW, uChanged);
+MEMBER(NMLISTVIEW, ptAction);
+MEMBER(NMLISTVIEW, lParam);
+RECORD(NMITEMACTIVATE);
+MEMBER(NMITEMACTIVATE, hdr);
+MEMBER(NMITEMACTIVATE, iItem);
+MEMBER(NMITEMACTIVATE, iSubItem);
+MEMBER(NMITEMACTIVATE, uNewState);
+MEMBER(NMITEMACTIVATE, uOldState);
+MEMBER(NMITEMACTIVATE, uChanged);
+MEMBER(NMITEMACTIVATE, ptAction);
+MEMBER(NMITEMACTIVATE, lParam);
+MEMBER(NMITEMACTIVATE, uKeyFlags);
+RECORD(NMMOUSE);
+MEMBER(NMMOUSE, hdr);
+MEMBER(NMMOUSE, dwItemSpec);
+MEMBER(NMMOUSE, dwItemData);
+MEMBER(NMMOUSE, pt);
+MEMBER(NMMOUSE, dwHitInfo);
+RECORD(TCITEMA);
+MEMBER(TCITEMA, mask);
+MEMBER(TCITEMA, dwState);
+MEMBER(TCITEMA, dwStateMask);
+MEMBER(TCITEMA, pszText);
+MEMBER(TCITEMA, cchTextMax);
+MEMBER(TCITEMA, iImage);
+MEMBER(TCITEMA, lParam);
+RECORD(TTTOOLINFOA);
+MEMBER(TTTOOLINFOA, cbSize);
+MEMBER(TTTOOLINFOA, uFlags);
+MEMBER(TTTOOLINFOA, hwnd);
+MEMBER(TTTOOLINFOA, uId);
+MEMBER(TTTOOLINFOA, rect);
+MEMBER(TTTOOLINFOA, hinst);
+MEMBER(TTTOOLINFOA, lpszText);
+MEMBER(TTTOOLINFOA, lParam);
+MEMBER(TTTOOLINFOA, lpReserved);
+RECORD(NMTTDISPINFOA);
+MEMBER(NMTTDISPINFOA, hdr);
+MEMBER(NMTTDISPINFOA, lpszText);
+MEMBER(NMTTDISPINFOA, szText);
+MEMBER(NMTTDISPINFOA, hinst);
+MEMBER(NMTTDISPINFOA, uFlags);
+MEMBER(NMTTDISPINFOA, lParam);
+
+// kernel32.h
+RECORD(SYSTEMTIME);
+MEMBER(SYSTEMTIME, wYear);
+MEMBER(SYSTEMTIME, wMonth);
+MEMBER(SYSTEMTIME, wDayOfWeek);
+MEMBER(SYSTEMTIME, wDay);
+MEMBER(SYSTEMTIME, wHour);
+MEMBER(SYSTEMTIME, wMinute);
+MEMBER(SYSTEMTIME, wSecond);
+MEMBER(SYSTEMTIME, wMilliseconds);
+RECORD(OSVERSIONINFOA);
+MEMBER(OSVERSIONINFOA, dwOSVersionInfoSize);
+MEMBER(OSVERSIONINFOA, dwMajorVersion);
+MEMBER(OSVERSIONINFOA, dwMinorVersion);
+MEMBER(OSVERSIONINFOA, dwBuildNumber);
+MEMBER(OSVERSIONINFOA, dwPlatformId);
+MEMBER(OSVERSIONINFOA, szCSDVersion);
+
+// comdlg32.h
+RECORD(OPENFILENAMEA);
+MEMBER(OPENFILENAMEA, lStructSize);
+MEMBER(OPENFILENAMEA, hwndOwner);
+MEMBER(OPENFILENAMEA, hInstance);
+MEMBER(OPENFILENAMEA, lpstrFilter);
+MEMBER(OPENFILENAMEA, lpstrCustomFilter);
+MEMBER(OPENFILENAMEA, nMaxCustFilter);
+MEMBER(OPENFILENAMEA, nFilterIndex);
+MEMBER(OPENFILENAMEA, lpstrFile);
+MEMBER(OPENFILENAMEA, nMaxFile);
+MEMBER(OPENFILENAMEA, lpstrFileTitle);
+MEMBER(OPENFILENAMEA, nMaxFileTitle);
+MEMBER(OPENFILENAMEA, lpstrInitialDir);
+MEMBER(OPENFILENAMEA, lpstrTitle);
+MEMBER(OPENFILENAMEA, Flags);
+MEMBER(OPENFILENAMEA, nFileOffset);
+MEMBER(OPENFILENAMEA, nFileExtension);
+MEMBER(OPENFILENAMEA, lpstrDefExt);
+MEMBER(OPENFILENAMEA, lCustData);
+MEMBER(OPENFILENAMEA, lpfnHook);
+MEMBER(OPENFILENAMEA, lpTemplateName);
+MEMBER(OPENFILENAMEA, pvReserved);
+MEMBER(OPENFILENAMEA, dwReserved);
+MEMBER(OPENFILENAMEA, FlagsEx);
+
+// shell32.h
+static_assert(sizeof(win::NOTIFYICONDATAA_V1) == NOTIFYICONDATAA_V1_SIZE);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, cbSize);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, hWnd);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, uID);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, uFlags);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, uCallbackMessage);
+SAME_MEMBER(NOTIFYICONDATAA_V1, NOTIFYICONDATAA, hIcon);
+static_assert(offsetof(win::NOTIFYICONDATAA_V1, szTip) == offsetof(::NOTIFYICONDATAA, szTip));
+
+// oleauto.h
+RECORD(CLSID);
+MEMBER(CLSID, Data1);
+MEMBER(CLSID, Data2);
+MEMBER(CLSID, Data3);
+MEMBER(CLSID, Data4);

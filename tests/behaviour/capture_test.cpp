@@ -1,0 +1,240 @@
+// "From Browser": the page on show as a new entry, by automation and by dynamic data exchange.
+#include "browser/capture.h"
+
+#include "browser/dde_roads.h"
+#include "platform/api/kernel32.h"
+#include "platform/memory/driver_system.h"
+#include "tests/behaviour/browser_fixture.h"
+#include "tests/unit/runtime/failure_of.h"
+#include "tray/form1.h"
+
+namespace magpie {
+namespace {
+
+namespace driver = win::memory::driver;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Capture : public BrowserFixture {
+public:
+    static std::string shownName() { return Form2.Text1[0].Text(); }
+    static std::string shownUrl() { return Form2.Text1[1].Text(); }
+    static win::memory::ShellWindow& openPage(const std::string& title, const std::string& url) {
+        return driver::addShellWindow({.window = driver::openOtherWindow("IEFrame", ieTitle),
+                                       .locationName = title,
+                                       .locationUrl = url});
+    }
+};
+
+// By automation ----------------------------------------------------------------------------
+
+TEST_F(Capture, InternetExplorersPageFillsTheDialogAndIsStoredByAccept) {
+    open(0);
+    openPage("Page - one \xE9", "http://a/b?c");
+    capture([] {
+        EXPECT_EQ(modalOpen, D_NEW);
+        EXPECT_EQ(shownName(), "Page - one \xE9");
+        EXPECT_EQ(shownUrl(), "http://a/b?c");
+        accept();
+    });
+    EXPECT_EQ(newest().Name(), "Page - one \xE9");
+    EXPECT_EQ(newest().URL(), "http://a/b?c");
+    EXPECT_EQ(modalOpen, 0);
+    // Once for the entry and once for the capture.
+    EXPECT_EQ(urlsDirty, 2);
+    EXPECT_EQ(driver::liveInSystem().automationObjects, 0);
+}
+
+TEST_F(Capture, ThisRoadAloneCountsAsAChangeAlsoWhenTheUserCancels) {
+    open(0);
+    openPage("page", "http://a/");
+    capture([] { cancel(); });
+    EXPECT_EQ(urlsDirty, 1);
+    EXPECT_EQ(uBlock.URLDatas().Count(), 4);
+    urlsDirty = 0;
+    browserType = 1;
+    answering("Netscape", "\"u\",\"t\"");
+    capture([] { cancel(); });
+    EXPECT_EQ(urlsDirty, 0);
+}
+
+TEST_F(Capture, WithoutInternetExplorerNothingOpens) {
+    open(0);
+    captureNothing();
+    driver::openOtherWindow("IEFrame", ieTitle);
+    captureNothing();
+    EXPECT_THAT(driver::messageBoxes(), IsEmpty());
+}
+
+TEST_F(Capture, ABrowserThatGoesWhileItIsReadWasNotThere) {
+    open(0);
+    auto& page = openPage("page", "http://a/");
+    for (const char* member : {"LocationName", "LocationURL", "Name"}) {
+        page.fails = member;
+        captureNothing();
+    }
+    page.away = true;
+    captureNothing();
+    driver::endShellWindows();
+    captureNothing();
+    EXPECT_EQ(driver::liveInSystem().automationObjects, 0);
+}
+
+TEST_F(Capture, AStoreThatIsFlushedUnderTheDialogHasNothingToSave) {
+    open(0);
+    openPage("page", "http://a/");
+    capture([] { Form3.mnuFree.onClick.raise(0); });
+    EXPECT_FALSE(Form3.loaded());
+    EXPECT_EQ(urlsDirty, 0);
+}
+
+// By dynamic data exchange -----------------------------------------------------------------
+
+TEST_F(Capture, NetscapesPageFillsTheDialogAndIsStoredByAccept) {
+    open(1);
+    auto& netscape = answering("Netscape", "\"http://a/\",\"A page\",\"frame\"");
+    capture([] {
+        EXPECT_EQ(modalOpen, D_NEW);
+        EXPECT_EQ(shownName(), "A page");
+        EXPECT_EQ(shownUrl(), "http://a/");
+        accept();
+    });
+    EXPECT_THAT(netscape.asked, ElementsAre("WWW_GetWindowInfo -1"));
+    EXPECT_EQ(newest().Name(), "A page");
+    EXPECT_EQ(newest().URL(), "http://a/");
+    EXPECT_EQ(urlsDirty, 1);
+    EXPECT_EQ(modalOpen, 0);
+}
+
+TEST_F(Capture, ATitleIsCutAtItsCommaAndLosesItsLastCharacter) {
+    open(2);
+    answering("Opera", "\"http://a/\",\"One, two\"");
+    capture([] { EXPECT_EQ(shownName(), "On"); });
+}
+
+TEST_F(Capture, EachTextLosesItsEndsWhateverTheyAre) {
+    EXPECT_EQ(pageOf("url,title").url, "r");
+    EXPECT_EQ(pageOf("url,title").title, "itl");
+    EXPECT_EQ(pageOf("\"\",\"\"").url, "");
+    EXPECT_EQ(pageOf("\"\",\"\"").title, "");
+    EXPECT_EQ(pageOf("ab,cd,").title, "");
+    EXPECT_EQ(pageOf("'a\xE9','b\"b'").title, "b\"b");
+    const std::string page(100000, 'x');
+    EXPECT_EQ(pageOf("\"u\",\"" + page + "\"").title, page);
+}
+
+TEST_F(Capture, AReplyWithoutTwoTextsOfTwoCharactersFails) {
+    for (const char* reply : {"", "\"url\"", "url"})
+        EXPECT_EQ(failureOf([&] { return pageOf(reply).url.size(); }), failure::subscript) << reply;
+    for (const char* reply : {",", "a,\"b\"", "\"a\",b", "\"a\",", ",\"b\""})
+        EXPECT_EQ(failureOf([&] { return pageOf(reply).url.size(); }), failure::invalidCall)
+            << reply;
+}
+
+TEST_F(Capture, AReplyThatCannotBeReadIsAskedOfTheNextBrowser) {
+    open(1);
+    auto& netscape = answering("Netscape");
+    auto& opera = answering("Opera", "\"http://o/\",\"Opera's\"");
+    for (const char* reply : {"", "\"one token\"", "not quoted", "a,b"}) {
+        netscape.answer = [reply](const std::string&, const std::string&) {
+            return std::optional<std::string>(reply);
+        };
+        capture([&] { EXPECT_EQ(shownName(), "Opera's") << reply; });
+    }
+    EXPECT_EQ(netscape.asked.size(), 4u);
+    EXPECT_EQ(opera.asked.size(), 4u);
+}
+
+TEST_F(Capture, AReplyOfAHundredKilobytesIsTaken) {
+    open(1);
+    const std::string title(100000, 't');
+    answering("Netscape", "\"http://a/\",\"" + title + "\"");
+    capture([&] {
+        EXPECT_EQ(shownName(), title);
+        EXPECT_EQ(shownUrl(), "http://a/");
+    });
+}
+
+TEST_F(Capture, ThreeFailuresEndInNothing) {
+    open(1);
+    std::vector<std::string> order;
+    for (const char* service : {"IEXPLORE", "Netscape", "Opera"})
+        refusing(service).answer = [&order, service](const std::string&, const std::string&) {
+            order.push_back(service);
+            return std::optional<std::string>();
+        };
+    captureNothing();
+    EXPECT_THAT(order, ElementsAre("Netscape", "Opera", "IEXPLORE"));
+    EXPECT_THAT(started(), IsEmpty());
+    driver::removeDdePeers();
+    captureNothing();
+    EXPECT_THAT(driver::messageBoxes(), IsEmpty());
+}
+
+TEST_F(Capture, ASilentNetscapeIsAFailureHere) {
+    open(1);
+    silent("Netscape");
+    answering("Opera", "\"http://o/\",\"Opera's\"");
+    const win::DWORD begin = win::GetTickCount();
+    capture([&] {
+        EXPECT_GE(win::GetTickCount() - begin, 5000u);
+        EXPECT_EQ(shownName(), "Opera's");
+    });
+}
+
+TEST_F(Capture, ABrowserThatDiesInMidConversationIsAFailure) {
+    open(2);
+    answering("Opera").dies = true;
+    answering("IEXPLORE", "\"http://i/\",\"Explorer's\"");
+    capture([] { EXPECT_EQ(shownUrl(), "http://i/"); });
+}
+
+// One at a time ----------------------------------------------------------------------------
+
+TEST_F(Capture, WhileAnythingHoldsTheInterfaceItDoesNothing) {
+    open(1);
+    auto& netscape = answering("Netscape", "\"u\",\"t\"");
+    for (const std::uint8_t held : {std::uint8_t{1}, D_EDIT, D_NEW, std::uint8_t{4}}) {
+        modalOpen = held;
+        getURL();
+        EXPECT_EQ(modalOpen, held);
+        EXPECT_FALSE(Form2.loaded());
+    }
+    EXPECT_THAT(netscape.asked, IsEmpty());
+}
+
+TEST_F(Capture, AnEventDuringACaptureCannotStartAnother) {
+    open(1);
+    auto& netscape = answering("Netscape", "\"u\",\"t\"");
+    Form3.Left(0);
+    Form3.Top(0);
+    driver::atPump(1, [] {
+        EXPECT_EQ(modalOpen, 0);
+        clickPad();
+        Form3.mnuAddEntry[0].onClick.raise(0);
+        EXPECT_FALSE(Form2.loaded());
+    });
+    captureByMenu([] { cancel(); });
+    EXPECT_EQ(netscape.asked.size(), 1u);
+    // The next one is not held up.
+    captureByMenu([] { cancel(); });
+    EXPECT_EQ(netscape.asked.size(), 2u);
+}
+
+TEST_F(Capture, AMainWindowThatIsFlushedMeanwhileLeavesNothingHeld) {
+    open(1);
+    answering("Netscape", "\"u\",\"t\"");
+    driver::atPump(1, [] { Form3.mnuFree.onClick.raise(0); });
+    bool asked = false;
+    driver::whenIdle([&asked] {
+        asked = true;
+        Form2.unload();
+        win::PostMessageA(Form1.hWnd(), win::WM_NULL, 0, 0);
+    });
+    Form3.mnuAddEntry[0].onClick.raise(0);
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(modalOpen, 0);
+}
+
+}  // namespace
+}  // namespace magpie

@@ -1,0 +1,99 @@
+// In which code page a bookmark file is read: its mark, its META, or a guess.
+#include <gmock/gmock.h>
+#include <string>
+
+#include "tests/unit/companion/bookmark_fixture.h"
+
+namespace magpie {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+
+// A page with a title and an address, in front of which `meta` stands.
+std::string pageOf(const std::string& meta, const std::string& title) {
+    return meta + "<DL><DT><A HREF=\"http://a/" + title + "\">" + title + "</A></DL>";
+}
+
+std::string metaOf(const std::string& charset) {
+    return "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=" + charset + "\">";
+}
+
+std::string utf16(const std::string& latin, bool bigEndian) {
+    std::string bytes;
+    for (const char byte : latin) bytes += bigEndian ? "\0"s + byte : byte + "\0"s;
+    return bytes;
+}
+
+struct Case {
+    const char* name;
+    std::string page;
+    std::string link;
+};
+
+class Charset : public testing::TestWithParam<Case> {};
+
+TEST_P(Charset, IsFoundOut) {
+    EXPECT_THAT(importPage(GetParam().page).events, ElementsAre("+Bookmarks", GetParam().link));
+}
+
+const std::string umlaut = "\xE4|http://a/%C3%A4";
+const std::string zhe = "?|http://a/%D0%96";
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Charset,
+    testing::Values(
+        Case{"Utf8Said", pageOf(metaOf("UTF-8"), "\xC3\xA4"), umlaut},
+        Case{"Utf8Guessed", pageOf("", "\xC3\xA4"), umlaut},
+        Case{"Utf8Marked", "\xEF\xBB\xBF" + pageOf("", "\xC3\xA4"), umlaut},
+        Case{"MarkOverMeta", "\xEF\xBB\xBF" + pageOf(metaOf("windows-1251"), "\xC3\xA4"), umlaut},
+        Case{"ProgramsCodePageGuessed", pageOf("", "\xE4"), umlaut},
+        Case{"Utf8SaidButNotTrue", pageOf(metaOf("utf-8"), "\xE4"), umlaut},
+        Case{"Western", pageOf(metaOf("iso-8859-1"), "\xE4"), umlaut},
+        Case{"WesternInCapitals", pageOf(metaOf("ISO-8859-1"), "\xE4"), umlaut},
+        Case{"Cyrillic", pageOf(metaOf("windows-1251"), "\xC6"), zhe},
+        Case{"CyrillicKoi8", pageOf(metaOf("KOI8-R"), "\xF6"), zhe},
+        Case{"Macintosh", pageOf(metaOf("x-mac-roman"), "\x8A"), umlaut},
+        Case{"ShortMeta", pageOf("<meta charset=windows-1251>", "\xC6"), zhe},
+        Case{"ShortMetaQuoted", pageOf("<meta charset='windows-1251'>", "\xC6"), zhe},
+        Case{"MetaWithBlanks",
+             pageOf("<META CONTENT='text/html; CharSet = \"windows-1251\"'>", "\xC6"), zhe},
+        Case{"MetaBehindTheLinks", pageOf("", "\xC6") + metaOf("windows-1251"), zhe},
+        Case{"FirstMetaThatIsKnown",
+             pageOf(metaOf("x-none") + metaOf("windows-1251") + metaOf("utf-8"), "\xC6"), zhe},
+        Case{"MetaInAComment", pageOf("<!-- " + metaOf("windows-1251") + " -->", "\xE4"), umlaut},
+        Case{"UnknownCharset", pageOf(metaOf("x-none"), "\xE4"), umlaut},
+        Case{"Utf16SaidInAscii", pageOf(metaOf("utf-16"), "\xC3\xA4"), umlaut},
+        Case{"Utf16", "\xFF\xFE" + utf16(pageOf("", "\xE4"), false), umlaut},
+        Case{"Utf16BigEndian", "\xFE\xFF" + utf16(pageOf("", "\xE4"), true), umlaut},
+        Case{"Utf16WithoutMark", utf16(pageOf("", "\xE4"), false), umlaut},
+        Case{"Utf16BigEndianWithoutMark", utf16(pageOf("", "\xE4"), true), umlaut},
+        Case{"Utf16WithMeta", "\xFF\xFE" + utf16(pageOf(metaOf("windows-1251"), "\xE4"), false),
+             umlaut}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST(CharsetOfAPage, TheProgramsCodePageReadsWhatSaysNothing) {
+    const ImportOptions cyrillic{1251, {}};
+    EXPECT_THAT(importPage(pageOf("", "\xC6"), cyrillic).events,
+                ElementsAre("+Bookmarks", "\xC6|http://a/%D0%96"));
+}
+
+// A code page in which each pair of bytes above 7F is the same letter.
+bool oneLetter(unsigned codePage, std::string_view bytes, std::u16string& text) {
+    if (codePage != 932) return false;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(bytes[at]);
+        text += byte < 0x80 ? char16_t{byte} : u'\u03B1';
+        if (byte >= 0x80) ++at;
+    }
+    return true;
+}
+
+TEST(CharsetOfAPage, OtherCodePagesAreThePlatforms) {
+    const ImportOptions options{1253, {oneLetter, nullptr}};
+    EXPECT_THAT(importPage(pageOf(metaOf("Shift_JIS"), "\x83\xBF"), options).events,
+                ElementsAre("+Bookmarks", "\xE1|http://a/%CE%B1"));
+}
+
+}  // namespace
+}  // namespace magpie
