@@ -5,7 +5,8 @@ target_include_directories(magpie_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(magpie_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
 if(MAGPIE_SANITIZE)
   target_compile_options(magpie_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    $<IF:$<BOOL:$<TARGET_PROPERTY:MAGPIE_RUNS_ONCE>>,-O0,-O1>)
   target_link_options(magpie_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(MAGPIE_COVERAGE)
