@@ -74,10 +74,10 @@ void wentDown() {
 void Timer1_Timer() {
     if (modalOpen != 0) return;
     isOnline = lineState();
-    if (isOnline != 0 && lastLine != seenOn)
-        cameUp();
-    else if (isOnline == 0 && lastLine != seenOff)
-        wentDown();
+    if (isOnline != 0 && lastLine != seenOn) cameUp();
+    // Not the other case of the first: the window may let a tick in while it comes up, and the line
+    // may have gone by then.
+    if (isOnline == 0 && lastLine != seenOff) wentDown();
 }
 
 }  // namespace magpie
