@@ -41,11 +41,21 @@ void showAsNewEntry(const Page& page) {
     showDialogModal(Form2);
 }
 
+// Holds the interface for the dialog to come while the browser, which lets events in, is read.
+class HeldForNewEntry {
+public:
+    HeldForNewEntry() { modalOpen = D_NEW; }
+    ~HeldForNewEntry() { modalOpen = 0; }
+    HeldForNewEntry(const HeldForNewEntry&) = delete;
+    HeldForNewEntry& operator=(const HeldForNewEntry&) = delete;
+};
+
 // Both texts before anything is shown: a browser that goes in between was not there.
 std::optional<Page> pageByAutomation() {
     try {
         const std::optional<AutomationObject> browser = findIEObject();
         if (!browser) return std::nullopt;
+        const HeldForNewEntry held;
         return Page{browser->text("LocationName"), browser->text("LocationURL")};
     } catch (const Failure&) {
         return std::nullopt;
@@ -63,12 +73,13 @@ void getURL() {
     if (const std::optional<Page> page = readPageByDde()) showAsNewEntry(*page);
 }
 
-// A store that was emptied under the dialog has nothing to save.
+// A store that was emptied under the dialog has nothing to save, nor has one that was read anew.
 void readIEDirect() {
     const std::optional<Page> page = pageByAutomation();
     if (!page) return;
+    const win::HWND window = Form3.loaded() ? Form3.hWnd() : nullptr;
     showAsNewEntry(*page);
-    if (Form3.loaded()) ++urlsDirty;
+    if (Form3.loaded() && Form3.hWnd() == window) ++urlsDirty;
 }
 
 }  // namespace magpie

@@ -75,6 +75,8 @@ void copyFromIE() {
     modalOpen = D_NEW;
     Form2.Text1[0].Text(pageTitle(title));
     Form2.Text1[1].Text(clipboardTextInTheEnd());
+    // Another dialog may have come and gone under the wait.
+    modalOpen = D_NEW;
     showDialogModal(Form2);
 }
 

@@ -20,11 +20,11 @@ void mnuAddEntry_Click(int Index) {
         case 1:
             modalOpen = D_NEW;
             showDialogModal(Form2);
-            // The entry was counted while the dialog made the commands on entries wait.
-            if (Form3.loaded()) UpdateMenus();
             break;
-        default: break;
+        default: return;
     }
+    // The entry was counted while the dialog made the commands on entries wait.
+    if (Form3.loaded()) UpdateMenus();
 }
 
 void mnuNew_Click() {

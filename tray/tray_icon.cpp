@@ -7,6 +7,7 @@
 #include "platform/api/shell32.h"
 #include "platform/api/user32.h"
 #include "platform/runtime/rounding.h"
+#include "platform/services/dde.h"
 #include "platform/services/screen.h"
 #include "tray/form1.h"
 #include "tray/tray_menu.h"
@@ -44,6 +45,11 @@ void setTrayIcon(bool remove) {
 void trayNotification(int, int, double x, double) {
     const bool inPixels = Form1.ScaleMode == scalePixels;
     const std::int32_t message = toInt32(inPixels ? x : x / Screen.TwipsPerPixelX());
+    if (conversationWaits()) {
+        // The shell sends where the user clicks; a click waits until events may run.
+        win::PostMessageA(Form1.hWnd(), trayData.uCallbackMessage, trayData.uID, message);
+        return;
+    }
     if (message == static_cast<std::int32_t>(win::WM_LBUTTONUP)) {
         Form3.WindowState(stateNormal);
         Form3.load();

@@ -6,6 +6,7 @@
 #include "platform/memory/faults.h"
 #include "platform/memory/queue.h"
 #include "platform/memory/refuse.h"
+#include "platform/memory/threads.h"
 #include "platform/memory/ticks.h"
 #include "platform/memory/timers.h"
 
@@ -79,6 +80,7 @@ Queue& queue() {
 }
 
 bool nextMessage(MSG& message, HWND window, UINT first, UINT last, bool remove) {
+    deliverSent();
     Queue& waiting = queue();
     if (!waiting.posted.empty() && take(waiting.posted, message, window, first, last, remove))
         return true;
@@ -103,6 +105,7 @@ namespace win {
 using namespace memory;
 
 LRESULT SendMessageA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (besideInterface()) return sendToInterface(handle, message, wParam, lParam);
     return windowOf(handle).procedure(handle, message, wParam, lParam);
 }
 

@@ -64,6 +64,7 @@ HRESULT read(const ShellWindow& window, std::string_view name, VARIANT* result) 
 
 HRESULT invokeWindow(ShellWindow& window, std::string_view name, WORD kind, Arguments arguments,
                      VARIANT* result) {
+    if (window.underRead && kind == DISPATCH_PROPERTYGET) window.underRead(std::string(name));
     if (name == window.fails) return denied;
     if (kind == DISPATCH_PROPERTYGET) return read(window, name, result);
     if (kind == DISPATCH_PROPERTYPUT && name == "Visible") {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ struct ShellWindow {
 
     bool away = false;                // the collection counts it and has nothing to give for it
     std::string fails{};              // the member that fails, as one that its program denies
+    std::function<void(const std::string& member)> underRead{};  // what happens while it is read
     std::vector<std::string> done{};  // "visible", "hidden", "navigate ADDRESS", so far
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -39,6 +40,16 @@ struct EventObject : KernelObject {
 
 struct ThreadObject : KernelObject {};
 
+// Stands on its sender's stack, who waits for `result`.
+struct SentMessage {
+    HWND window;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    Worker* sender;
+    LRESULT result = 0;
+};
+
 // Neither is ever destroyed: a thread that is held up for ever looks at them to the end.
 Baton& baton() {
     static auto* const theBaton = new Baton;
@@ -48,6 +59,11 @@ Baton& baton() {
 std::vector<std::unique_ptr<Worker>>& workers() {
     static auto* const all = new std::vector<std::unique_ptr<Worker>>;
     return *all;
+}
+
+std::deque<SentMessage*>& sentMessages() {
+    static auto* const waiting = new std::deque<SentMessage*>;
+    return *waiting;
 }
 
 thread_local Worker* self = nullptr;
@@ -108,6 +124,26 @@ void holdThreadUp(std::uint64_t milliseconds) {
     }
 }
 
+bool besideInterface() {
+    return self != nullptr;
+}
+
+LRESULT sendToInterface(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    SentMessage sent{window, message, wParam, lParam, self};
+    sentMessages().push_back(&sent);
+    holdThreadUp(never);
+    return sent.result;
+}
+
+void deliverSent() {
+    while (!sentMessages().empty()) {
+        SentMessage& sent = *sentMessages().front();
+        sentMessages().pop_front();
+        sent.result = SendMessageA(sent.window, sent.message, sent.wParam, sent.lParam);
+        sent.sender->wakeAt = 0;
+    }
+}
+
 }  // namespace memory
 
 using namespace memory;
@@ -132,7 +168,7 @@ BOOL SetEvent(HANDLE event) {
     return 1;
 }
 
-// Nobody sends messages from another thread here, and nothing is painted.
+// Nothing is painted here.
 DWORD MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitForAll,
                                 DWORD milliseconds, DWORD wakeMask) {
     if (count != 1 || waitForAll) refuse("objects to wait for", count);
@@ -141,6 +177,7 @@ DWORD MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitFor
     for (;;) {
         runThreads();
         if (eventOf(handles[0]).set) return WAIT_OBJECT_0;
+        if (!sentMessages().empty()) return WAIT_OBJECT_0 + count;
         if (ticks() >= deadline) return WAIT_TIMEOUT;
         passTicks(std::min(nextWake(), deadline) - ticks());
     }

@@ -174,7 +174,18 @@ void answerOthersAndPaint() {
     }
 }
 
+int waiting = 0;
+
+class Waiting {
+public:
+    Waiting() { ++waiting; }
+    ~Waiting() { --waiting; }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+};
+
 void waitFor(const Conversation& conversation) {
+    const Waiting now;
     constexpr win::DWORD messageCame = win::WAIT_OBJECT_0 + 1;
     for (;;) {
         const win::DWORD woken = win::MsgWaitForMultipleObjects(
@@ -197,6 +208,10 @@ std::string ddeRequest(const std::string& service, const std::string& topic,
     waitFor(*conversation);
     if (conversation->failure != 0) throw Failure{conversation->failure};
     return conversation->reply;
+}
+
+bool conversationWaits() {
+    return waiting > 0;
 }
 
 }  // namespace magpie

@@ -16,4 +16,8 @@ namespace magpie {
 std::string ddeRequest(const std::string& service, const std::string& topic,
                        const std::string& item);
 
+// True until the conversation under way is over. What another program sends to a window still
+// arrives then; where it stands for something that the user did, it has to wait.
+bool conversationWaits();
+
 }  // namespace magpie

@@ -80,6 +80,56 @@ TEST_F(Capture, ABrowserThatGoesWhileItIsReadWasNotThere) {
     EXPECT_EQ(driver::liveInSystem().automationObjects, 0);
 }
 
+TEST_F(Capture, TheInterfaceIsHeldWhileTheBrowserIsRead) {
+    open(0);
+    auto& page = openPage("page", "http://a/");
+    std::vector<std::string> held;
+    page.underRead = [&](const std::string& member) {
+        if (modalOpen == D_NEW) held.push_back(member);
+        Form3.mnuAddEntry[0].onClick.raise(0);
+        if (modalOpen == D_NEW) Form3.mnuAddEntry[1].onClick.raise(1);
+        EXPECT_FALSE(Form2.loaded());
+    };
+    capture([] { cancel(); });
+    EXPECT_THAT(held, ElementsAre("LocationName", "LocationURL"));
+    urlsDirty = 0;
+    page.fails = "LocationURL";
+    captureNothing();
+}
+
+TEST_F(Capture, TheEntryIsANewOneThoughAnotherDialogHeldTheInterfaceMeanwhile) {
+    open(0);
+    auto& page = openPage("page", "http://a/");
+    page.underRead = [](const std::string&) { modalOpen = 0; };
+    capture([] {
+        EXPECT_EQ(modalOpen, D_NEW);
+        accept();
+    });
+    EXPECT_EQ(newest().URL(), "http://a/");
+}
+
+TEST_F(Capture, AStoreThatIsReadAnewUnderTheDialogHasNothingToSave) {
+    open(0);
+    openPage("page", "http://a/");
+    capture([] {
+        Form3.mnuFree.onClick.raise(0);
+        Form3.Show();
+        Form2.unload();
+    });
+    EXPECT_TRUE(Form3.loaded());
+    EXPECT_EQ(urlsDirty, 0);
+}
+
+TEST_F(Capture, TheMenusAreUpToDateBehindIt) {
+    open(0);
+    openPage("page", "http://a/");
+    capture([] {
+        EXPECT_FALSE(Form3.mnuAddEntry[0].Enabled);
+        accept();
+    });
+    EXPECT_TRUE(Form3.mnuAddEntry[0].Enabled);
+}
+
 TEST_F(Capture, AStoreThatIsFlushedUnderTheDialogHasNothingToSave) {
     open(0);
     openPage("page", "http://a/");

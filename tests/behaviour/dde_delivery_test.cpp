@@ -4,6 +4,7 @@
 #include "platform/memory/driver_system.h"
 #include "platform/memory/threads.h"
 #include "tests/behaviour/browser_fixture.h"
+#include "tray/form1.h"
 
 namespace magpie {
 namespace {
@@ -127,6 +128,40 @@ TEST_F(DdeDelivery, AFourthBrowserHasNoNameAndAFifthIsNone) {
         EXPECT_THAT(nameless.asked, IsEmpty());
         driver::removeDdePeers();
     }
+}
+
+// Events -----------------------------------------------------------------------------------
+
+TEST_F(DdeDelivery, WhatOthersSendIsAnsweredAtOnceAndNothingElseBeforeTheReply) {
+    open(2);
+    static std::vector<std::string> order;
+    Form1.onMouseUp = [](int, int, double, double) { order.push_back("click"); };
+    answering("Opera").answer = [](const std::string&, const std::string&) {
+        win::PostMessageA(Form1.hWnd(), win::WM_LBUTTONUP, 0, 0);
+        EXPECT_NE(win::SendMessageA(Form1.hWnd(), win::WM_QUERYENDSESSION, 0, 0), 0);
+        order.push_back("reply");
+        return std::optional<std::string>("1");
+    };
+    visit("u");
+    EXPECT_THAT(order, ElementsAre("reply", "click"));
+}
+
+// The shell sends what the user does to the icon.
+TEST_F(DdeDelivery, AClickOnTheTrayIconWaitsForTheReply) {
+    open(2);
+    std::vector<std::string> order;
+    answering("Opera").answer = [&](const std::string&, const std::string&) {
+        win::SendMessageA(Form1.hWnd(), win::WM_MOUSEMOVE, 1, win::WM_RBUTTONUP);
+        order.push_back("reply");
+        return std::optional<std::string>("1");
+    };
+    driver::onPopup([&](const driver::Popup& popup) {
+        EXPECT_EQ(popup.owner, Form1.hWnd());
+        order.push_back("menu");
+        return win::UINT{0};
+    });
+    visit("u");
+    EXPECT_THAT(order, ElementsAre("reply", "menu"));
 }
 
 // Time -------------------------------------------------------------------------------------

@@ -4,6 +4,7 @@
 #include "platform/api/ddeml.h"
 #include "platform/api/kernel32.h"
 #include "platform/api/user32.h"
+#include "tests/conformance/log_window.h"
 #include "tests/conformance/peers.h"
 
 using namespace win;
@@ -52,6 +53,43 @@ DWORD connectToNobody(void* parameter) {
     DdeUninitialize(instance);
     SetEvent(work.event);
     return 0;
+}
+
+struct Letter {
+    HANDLE event = nullptr;
+    HWND to = nullptr;
+    LRESULT answer = 0;
+};
+
+DWORD sendTwice(void* parameter) {
+    auto& letter = *static_cast<Letter*>(parameter);
+    letter.answer = SendMessageA(letter.to, WM_USER, 1, 2);
+    PostMessageA(letter.to, WM_USER + 1, 0, 0);
+    letter.answer += SendMessageA(letter.to, WM_USER, 3, 4);
+    SetEvent(letter.event);
+    return 0;
+}
+
+TEST_F(Threads, WhatOneSendsIsAnsweredByALookAtTheQueueAndWhatItPostsWaits) {
+    LogWindow window("a");
+    std::vector<UINT> got;
+    window.answer = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+        if (message != WM_USER && message != WM_USER + 1) return std::nullopt;
+        got.push_back(message);
+        return static_cast<LRESULT>(wParam * 10);
+    };
+    Letter letter{event, window};
+    start(sendTwice, &letter);
+    MSG message{};
+    for (DWORD woken = wait(3000); woken != WAIT_OBJECT_0; woken = wait(3000)) {
+        ASSERT_EQ(woken, WAIT_OBJECT_0 + 1);
+        while (PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE))
+            DispatchMessageA(&message);
+    }
+    EXPECT_EQ(letter.answer, 40);
+    EXPECT_THAT(got, testing::ElementsAre(WM_USER, WM_USER));
+    desk::pump();
+    EXPECT_THAT(got, testing::ElementsAre(WM_USER, WM_USER, WM_USER + 1));
 }
 
 TEST_F(Threads, WhoeverWaitsGoesOnWhenTheEventIsSet) {
