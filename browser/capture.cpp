@@ -5,10 +5,11 @@
 #include "browser/dde_roads.h"
 #include "browser/ie_keystrokes.h"
 #include "browser/ie_object.h"
+#include "core/interface_held.h"
 #include "core/misc.h"
 #include "core/state.h"
 #include "entries/form2.h"
-#include "mainwindow/form3.h"
+#include "mainwindow/same_main_window.h"
 #include "platform/runtime/failure.h"
 
 namespace magpie {
@@ -35,27 +36,22 @@ private:
 };
 
 void showAsNewEntry(const Page& page) {
-    modalOpen = D_NEW;
+    const InterfaceHeld held(D_NEW);
+    // The user may have used the dialog since the capture began, and its boxes load it only once
+    // in an event.
+    Form2.load();
     Form2.Text1[0].Text(page.title);
     Form2.Text1[1].Text(page.url);
     showDialogModal(Form2);
 }
-
-// Holds the interface for the dialog to come while the browser, which lets events in, is read.
-class HeldForNewEntry {
-public:
-    HeldForNewEntry() { modalOpen = D_NEW; }
-    ~HeldForNewEntry() { modalOpen = 0; }
-    HeldForNewEntry(const HeldForNewEntry&) = delete;
-    HeldForNewEntry& operator=(const HeldForNewEntry&) = delete;
-};
 
 // Both texts before anything is shown: a browser that goes in between was not there.
 std::optional<Page> pageByAutomation() {
     try {
         const std::optional<AutomationObject> browser = findIEObject();
         if (!browser) return std::nullopt;
-        const HeldForNewEntry held;
+        // A browser lets events in while it is read.
+        const InterfaceHeld held(D_NEW);
         return Page{browser->text("LocationName"), browser->text("LocationURL")};
     } catch (const Failure&) {
         return std::nullopt;
@@ -73,13 +69,12 @@ void getURL() {
     if (const std::optional<Page> page = readPageByDde()) showAsNewEntry(*page);
 }
 
-// A store that was emptied under the dialog has nothing to save, nor has one that was read anew.
 void readIEDirect() {
     const std::optional<Page> page = pageByAutomation();
     if (!page) return;
-    const win::HWND window = Form3.loaded() ? Form3.hWnd() : nullptr;
+    const SameMainWindow mainWindow;
     showAsNewEntry(*page);
-    if (Form3.loaded() && Form3.hWnd() == window) ++urlsDirty;
+    if (mainWindow.isThere()) ++urlsDirty;
 }
 
 }  // namespace magpie

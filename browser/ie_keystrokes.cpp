@@ -2,6 +2,7 @@
 
 #include "browser/ie_window.h"
 #include "browser/keystrokes.h"
+#include "core/interface_held.h"
 #include "core/misc.h"
 #include "core/state.h"
 #include "entries/form2.h"
@@ -14,17 +15,6 @@
 namespace magpie {
 
 namespace {
-
-constexpr std::uint8_t plainDialog = 1;  // in modalOpen
-
-// Holds the interface, and lets it go however the routine ends.
-class InterfaceHeld {
-public:
-    InterfaceHeld() { modalOpen = plainDialog; }
-    ~InterfaceHeld() { modalOpen = 0; }
-    InterfaceHeld(const InterfaceHeld&) = delete;
-    InterfaceHeld& operator=(const InterfaceHeld&) = delete;
-};
 
 std::string titleOf(win::HWND window) {
     constexpr std::size_t limit = 254;  // the end of the text included
@@ -57,6 +47,8 @@ std::string clipboardTextInTheEnd() {
             return clipboardText();
         } catch (const Failure&) {
             DoEvents();
+            // Another dialog may have come and gone, and let the interface go.
+            modalOpen = D_NEW;
         }
         if (!Form1.loaded()) Form2.unload();
         if (!Form2.loaded()) throw Failure{failure::objectNotSet};
@@ -66,7 +58,7 @@ std::string clipboardTextInTheEnd() {
 }  // namespace
 
 void copyFromIE() {
-    const InterfaceHeld held;
+    const InterfaceHeld held(plainDialog);
     const std::string title = bringForward();
     if (title.empty()) return;
     pressAltD();
@@ -75,8 +67,6 @@ void copyFromIE() {
     modalOpen = D_NEW;
     Form2.Text1[0].Text(pageTitle(title));
     Form2.Text1[1].Text(clipboardTextInTheEnd());
-    // Another dialog may have come and gone under the wait.
-    modalOpen = D_NEW;
     showDialogModal(Form2);
 }
 

@@ -7,7 +7,7 @@
 #include "core/misc.h"
 #include "core/state.h"
 #include "entries/row_match.h"
-#include "mainwindow/form3.h"
+#include "mainwindow/same_main_window.h"
 #include "platform/runtime/failure.h"
 
 namespace magpie {
@@ -42,11 +42,12 @@ bool sendByDde(const std::string& url, bool newWindow) {
 
 void sendURL(const std::string& url, bool newWindow) {
     try {
+        const SameMainWindow mainWindow;
         singleSelect(false);
         const bool makesRoom = browserType == internetExplorer
                                    ? sendToInternetExplorer(url, newWindow)
                                    : sendByDde(url, newWindow);
-        if (makesRoom && activeIcon) stepAside(Form3);
+        if (makesRoom && activeIcon && mainWindow.isThere()) stepAside(Form3);
     } catch (const Failure&) {
         return;
     }

@@ -13,6 +13,7 @@
 namespace magpie {
 
 // What holds the interface, in `modalOpen`.
+inline constexpr std::uint8_t plainDialog = 1;
 inline constexpr std::uint8_t D_EDIT = 2;  // the URL Information dialog on an entry
 inline constexpr std::uint8_t D_NEW = 3;   // the URL Information dialog on a new one
 
@@ -23,7 +24,7 @@ inline std::string helpFile;   // the help file's full path; Form1's load
 
 // The run ----------------------------------------------------------------------------
 inline Checked<std::int16_t> urlsDirty;  // unsaved changes; every change, load, save, flush
-inline std::uint8_t modalOpen = 0;       // 0 nothing, 1 plain dialog, D_EDIT, D_NEW, 4 Find
+inline std::uint8_t modalOpen = 0;       // 0 nothing, plainDialog, D_EDIT, D_NEW, 4 Find
 inline bool keepResident = false;        // closing only hides; first build sets, ways out clear
 inline bool reallyLoaded = false;        // Form3's load is through; its end sets, flush clears
 inline std::int16_t isOnline = 0;        // not 0: the line is up; the connection watcher

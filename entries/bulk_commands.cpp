@@ -9,7 +9,7 @@
 #include "entries/frm_move.h"
 #include "entries/row_match.h"
 #include "entries/selection_walk.h"
-#include "mainwindow/form3.h"
+#include "mainwindow/same_main_window.h"
 #include "mainwindow/status_panel.h"
 #include "platform/api/constants.h"
 #include "platform/controls/message_box.h"
@@ -19,8 +19,6 @@
 namespace magpie {
 
 namespace {
-
-constexpr std::uint8_t plainDialog = 1;  // in modalOpen
 
 // A single row goes without a question.
 bool confirmsRemoval(std::int32_t count) {
@@ -32,13 +30,13 @@ bool confirmsRemoval(std::int32_t count) {
 
 // A flush under the question, or while the walk waits at a row, ends the command, and nothing
 // holds the interface of the next main window.
-bool flushed(win::HWND begun) {
-    if (Form3.loaded() && Form3.hWnd() == begun) return false;
+bool flushed(const SameMainWindow& begun) {
+    if (begun.isThere()) return false;
     modalOpen = 0;
     return true;
 }
 
-void removeRows(win::HWND begun) {
+void removeRows(const SameMainWindow& begun) {
     try {
         RemoveSelected();
     } catch (const Failure&) {
@@ -66,7 +64,7 @@ void mnuMove_Click() {
 // both back.
 void mnuRemove_Click() {
     if (SelectionWalk::waits()) return;
-    const win::HWND begun = Form3.hWnd();
+    const SameMainWindow begun;
     const std::int32_t count = selectedCount();
     modalOpen = plainDialog;
     setTopMost(Form3, wordFalse);
@@ -81,9 +79,10 @@ void mnuRemove_Click() {
 void mnuSend_Click(int Index) {
     constexpr int urlColumn = 1;
     const std::string url = Form3.ListView1[lvIndex].SelectedItem().SubItem(urlColumn);
+    const SameMainWindow mainWindow;
     if (Index == 0) sendURL(url, false);
     if (Index == 1) sendURL(url, true);
-    if (Form3.loaded()) ++urlsDirty;
+    if (mainWindow.isThere()) ++urlsDirty;
 }
 
 void mnuSendFolder_Click() {

@@ -5,8 +5,8 @@
 #include "entries/add_entry.h"
 #include "entries/list_binding.h"
 #include "mainwindow/entry_menu.h"
-#include "mainwindow/form3.h"
 #include "mainwindow/group_menu.h"
+#include "mainwindow/same_main_window.h"
 #include "mainwindow/status_panel.h"
 #include "platform/api/constants.h"
 #include "platform/runtime/number_text.h"
@@ -59,8 +59,7 @@ void ListView1_Click(int Index) {
 }
 
 // The row first: what is sent keeps its selection only if its texts are the record's. A row that
-// cannot be written and a browser that fails to open still cost the visit. A main window that was
-// flushed while the browser was asked has saved what it wanted to.
+// cannot be written and a browser that fails to open still cost the visit.
 void ListView1_DblClick(int Index) {
     ListView& list = Form3.ListView1[lvIndex];
     if (Index == groupList || list.Count() == 0) return;
@@ -70,8 +69,9 @@ void ListView1_DblClick(int Index) {
     ++record.Visited;
     record.LastAccesed = now();
     ResumeNext([&] { Flannel(row, record); });
+    const SameMainWindow mainWindow;
     sendURL(url, false);
-    if (!Form3.loaded()) return;
+    if (!mainWindow.isThere()) return;
     ++urlsDirty;
     UpdateSelectedEntry(selectedItem);
 }

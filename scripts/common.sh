@@ -122,6 +122,7 @@ wine_prefix() {
     wine_template
     if [[ ! -d $1 ]]; then
         rm -rf "$1.new"
+        mkdir -p "$(dirname "$1")"
         cp -a "$build/wine-template" "$1.new"
         mv "$1.new" "$1"
     fi

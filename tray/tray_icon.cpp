@@ -16,15 +16,17 @@ namespace magpie {
 
 namespace {
 
+constexpr win::UINT iconId = 1;
+constexpr win::UINT iconMessage = win::WM_MOUSEMOVE;
 constexpr std::string_view trayTip = "Magpie Tray Control";
 
 win::NOTIFYICONDATAA_V1 trayData{};
 
 void fillTrayData() {
     trayData.hWnd = Form1.hWnd();
-    trayData.uID = 1;
+    trayData.uID = iconId;
     trayData.uFlags = win::NIF_MESSAGE | win::NIF_ICON | win::NIF_TIP;
-    trayData.uCallbackMessage = win::WM_MOUSEMOVE;
+    trayData.uCallbackMessage = iconMessage;
     trayData.hIcon = Form1.Icon().small;
     trayTip.copy(trayData.szTip, sizeof trayData.szTip - 1);
 }
@@ -47,7 +49,7 @@ void trayNotification(int, int, double x, double) {
     const std::int32_t message = toInt32(inPixels ? x : x / Screen.TwipsPerPixelX());
     if (conversationWaits()) {
         // The shell sends where the user clicks; a click waits until events may run.
-        win::PostMessageA(Form1.hWnd(), trayData.uCallbackMessage, trayData.uID, message);
+        win::PostMessageA(Form1.hWnd(), iconMessage, iconId, message);
         return;
     }
     if (message == static_cast<std::int32_t>(win::WM_LBUTTONUP)) {

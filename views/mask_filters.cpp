@@ -15,7 +15,6 @@ namespace magpie {
 
 namespace {
 
-constexpr std::uint8_t plainDialog = 1;
 constexpr double belowMain = 500;  // twips
 
 // The last element of the rating names is none.

@@ -28,6 +28,6 @@ struct DdePeer {
 std::deque<DdePeer>& ddePeers();
 
 // Instances that were not ended.
-int openDdeInstances();
+inline int openDdeInstances = 0;
 
 }  // namespace win::memory

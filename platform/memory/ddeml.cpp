@@ -92,10 +92,6 @@ std::deque<DdePeer>& ddePeers() {
     return peers;
 }
 
-int openDdeInstances() {
-    return static_cast<int>(instances().size());
-}
-
 }  // namespace memory
 
 using namespace memory;
@@ -107,11 +103,14 @@ UINT DdeInitializeA(DWORD* instance, PFNCALLBACK callback, DWORD commands, ULONG
     if (DWORD error = faultIn("DdeInitializeA")) return error;
     *instance = ++last;
     instances()[last] = {};
+    ++openDdeInstances;
     return DMLERR_NO_ERROR;
 }
 
 BOOL DdeUninitialize(DWORD instance) {
-    return instances().erase(instance) != 0;
+    if (instances().erase(instance) == 0) return 0;
+    --openDdeInstances;
+    return 1;
 }
 
 UINT DdeGetLastError(DWORD instance) {

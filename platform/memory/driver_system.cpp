@@ -204,7 +204,7 @@ SystemCounts liveInSystem() {
             static_cast<int>(openKeys().size()),
             static_cast<int>(globalBlocks().size()),
             clipboard().open,
-            openDdeInstances(),
+            openDdeInstances,
             shellWindows().objects};
 }
 

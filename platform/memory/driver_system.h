@@ -76,7 +76,8 @@ const std::vector<FileDialog>& shownFileDialogs();
 // ---- Notification area -------------------------------------------------------------
 
 const std::vector<TrayIcon>& shownTrayIcons();
-// Tells the only icon's program of a mouse message on it, as the shell does: posted.
+// Tells the only icon's program of a mouse message on it. Posted, for a test to say when it comes;
+// the shell sends, so a program must take either.
 // Refuses when there is not exactly one icon.
 void postTrayMessage(UINT mouseMessage);
 

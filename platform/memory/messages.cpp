@@ -128,9 +128,11 @@ void PostQuitMessage(int exitCode) {
 
 BOOL PeekMessageA(MSG* message, HWND handle, UINT first, UINT last, UINT remove) {
     if (remove & ~PM_REMOVE) refuse("flags of PeekMessageA", remove);
-    beginPump();
-    bool found = nextMessage(*message, handle, first, last, remove & PM_REMOVE);
-    queue().pumpOver = !found;
+    // Who looks for one kind of message only lets nothing else run.
+    const bool pumps = first == 0 && last == 0;
+    if (pumps) beginPump();
+    const bool found = nextMessage(*message, handle, first, last, remove & PM_REMOVE);
+    if (pumps) queue().pumpOver = !found;
     return found;
 }
 

@@ -174,26 +174,27 @@ void answerOthersAndPaint() {
     }
 }
 
-int waiting = 0;
+bool conversing = false;
 
-class Waiting {
+class Conversing {
 public:
-    Waiting() { ++waiting; }
-    ~Waiting() { --waiting; }
-    Waiting(const Waiting&) = delete;
-    Waiting& operator=(const Waiting&) = delete;
+    Conversing() { conversing = true; }
+    ~Conversing() { conversing = false; }
+    Conversing(const Conversing&) = delete;
+    Conversing& operator=(const Conversing&) = delete;
 };
 
 void waitFor(const Conversation& conversation) {
-    const Waiting now;
+    const Conversing untilItIsOver;
     constexpr win::DWORD messageCame = win::WAIT_OBJECT_0 + 1;
     for (;;) {
+        // Also ahead of the wait, which ends for what comes and not for what has come.
+        answerOthersAndPaint();
         const win::DWORD woken = win::MsgWaitForMultipleObjects(
             1, &conversation.over, 0, conversation.timeLeft(), win::QS_SENDMESSAGE | win::QS_PAINT);
         if (woken == win::WAIT_OBJECT_0) return;
         if (woken != messageCame || conversation.timeLeft() == 0)
             throw Failure{failure::conversationTimedOut};
-        answerOthersAndPaint();
     }
 }
 
@@ -211,7 +212,7 @@ std::string ddeRequest(const std::string& service, const std::string& topic,
 }
 
 bool conversationWaits() {
-    return waiting > 0;
+    return conversing;
 }
 
 }  // namespace magpie

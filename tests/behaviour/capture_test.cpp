@@ -2,11 +2,20 @@
 #include "browser/capture.h"
 
 #include "browser/dde_roads.h"
+#include "core/misc.h"
+#include "entries/frm_move.h"
 #include "platform/api/kernel32.h"
 #include "platform/memory/driver_system.h"
+#include "platform/runtime/word.h"
+#include "platform/services/clock.h"
+#include "store/group_lookup.h"
 #include "tests/behaviour/browser_fixture.h"
 #include "tests/unit/runtime/failure_of.h"
 #include "tray/form1.h"
+#include "views/find.h"
+#include "views/find_form.h"
+#include "views/mask_filters.h"
+#include "views/rated.h"
 
 namespace magpie {
 namespace {
@@ -86,8 +95,10 @@ TEST_F(Capture, TheInterfaceIsHeldWhileTheBrowserIsRead) {
     std::vector<std::string> held;
     page.underRead = [&](const std::string& member) {
         if (modalOpen == D_NEW) held.push_back(member);
-        Form3.mnuAddEntry[0].onClick.raise(0);
-        if (modalOpen == D_NEW) Form3.mnuAddEntry[1].onClick.raise(1);
+        if (member == "LocationName") {
+            Form3.mnuAddEntry[0].onClick.raise(0);
+            Form3.mnuAddEntry[1].onClick.raise(1);
+        }
         EXPECT_FALSE(Form2.loaded());
     };
     capture([] { cancel(); });
@@ -95,17 +106,6 @@ TEST_F(Capture, TheInterfaceIsHeldWhileTheBrowserIsRead) {
     urlsDirty = 0;
     page.fails = "LocationURL";
     captureNothing();
-}
-
-TEST_F(Capture, TheEntryIsANewOneThoughAnotherDialogHeldTheInterfaceMeanwhile) {
-    open(0);
-    auto& page = openPage("page", "http://a/");
-    page.underRead = [](const std::string&) { modalOpen = 0; };
-    capture([] {
-        EXPECT_EQ(modalOpen, D_NEW);
-        accept();
-    });
-    EXPECT_EQ(newest().URL(), "http://a/");
 }
 
 TEST_F(Capture, AStoreThatIsReadAnewUnderTheDialogHasNothingToSave) {
@@ -123,11 +123,10 @@ TEST_F(Capture, AStoreThatIsReadAnewUnderTheDialogHasNothingToSave) {
 TEST_F(Capture, TheMenusAreUpToDateBehindIt) {
     open(0);
     openPage("page", "http://a/");
-    capture([] {
-        EXPECT_FALSE(Form3.mnuAddEntry[0].Enabled);
-        accept();
-    });
-    EXPECT_TRUE(Form3.mnuAddEntry[0].Enabled);
+    records().Row(1).Selected(true);
+    capture([] { accept(); });
+    EXPECT_TRUE(Form3.mnuEdit.Enabled);
+    EXPECT_TRUE(Form3.mnuAddz.Enabled);
 }
 
 TEST_F(Capture, AStoreThatIsFlushedUnderTheDialogHasNothingToSave) {
@@ -136,6 +135,43 @@ TEST_F(Capture, AStoreThatIsFlushedUnderTheDialogHasNothingToSave) {
     capture([] { Form3.mnuFree.onClick.raise(0); });
     EXPECT_FALSE(Form3.loaded());
     EXPECT_EQ(urlsDirty, 0);
+}
+
+TEST_F(Capture, TheMainWindowIsBackOnTopHoweverItEnds) {
+    open(0);
+    mainOnTop = true;
+    setTopMost(Form3, wordTrue);
+    const auto isOnTop = [] {
+        return (win::GetWindowLongPtrA(Form3.hWnd(), win::GWL_EXSTYLE) & win::WS_EX_TOPMOST) != 0;
+    };
+    openPage("page", "http://a/").underRead = [&](const std::string&) { EXPECT_TRUE(isOnTop()); };
+    capture([&] {
+        EXPECT_FALSE(isOnTop());
+        cancel();
+    });
+    EXPECT_TRUE(isOnTop());
+    urlsDirty = 0;
+    driver::endShellWindows();
+    captureNothing();
+    EXPECT_TRUE(isOnTop());
+}
+
+TEST_F(Capture, TheEntryHasTheFieldsOfANewOne) {
+    open(0);
+    openPage(" page ", " http://a/ ");
+    const Date before = now();
+    capture([] {
+        EXPECT_EQ(shownName(), " page ");
+        accept();
+    });
+    EXPECT_EQ(newest().Name(), "page");
+    EXPECT_EQ(newest().URL(), "http://a/");
+    EXPECT_EQ(newest().Owner, GetSelectedIndex());
+    EXPECT_EQ(newest().Rated, 0);
+    EXPECT_EQ(newest().Visited, 0);
+    EXPECT_EQ(newest().LastAccesed, Date{});
+    EXPECT_EQ(newest().Created, before);
+    EXPECT_EQ(records().Row(records().Count()).Text(), "page");
 }
 
 // By dynamic data exchange -----------------------------------------------------------------
@@ -253,6 +289,36 @@ TEST_F(Capture, WhileAnythingHoldsTheInterfaceItDoesNothing) {
     EXPECT_THAT(netscape.asked, IsEmpty());
 }
 
+TEST_F(Capture, UnderADialogItDoesNothing) {
+    open(1);
+    auto& netscape = answering("Netscape", "\"u\",\"t\"");
+    records().Row(1).Selected(true);
+    struct Dialog {
+        std::function<void()> open;
+        Form& form;
+    };
+    const Dialog dialogs[] = {{[] { Form3.mnuAddEntry[1].onClick.raise(1); }, Form2},
+                              {[] { Form3.mnuEdit.onClick.raise(0); }, Form2},
+                              {[] { Form3.mnuMove.onClick.raise(0); }, frmMove},
+                              {[] { mnuFind_Click(0); }, Find},
+                              {[] { Command5_Click(0); }, Rated}};
+    for (const Dialog& dialog : dialogs) {
+        bool up = false;
+        driver::whenIdle([&] {
+            up = dialog.form.loaded();
+            const std::uint8_t held = modalOpen;
+            EXPECT_GT(held, 0);
+            Form3.mnuAddEntry[0].onClick.raise(0);
+            EXPECT_EQ(modalOpen, held);
+            dialog.form.unload();
+            wake();
+        });
+        dialog.open();
+        EXPECT_TRUE(up);
+    }
+    EXPECT_THAT(netscape.asked, IsEmpty());
+}
+
 TEST_F(Capture, AnEventDuringACaptureCannotStartAnother) {
     open(1);
     auto& netscape = answering("Netscape", "\"u\",\"t\"");
@@ -269,6 +335,45 @@ TEST_F(Capture, AnEventDuringACaptureCannotStartAnother) {
     // The next one is not held up.
     captureByMenu([] { cancel(); });
     EXPECT_EQ(netscape.asked.size(), 2u);
+}
+
+// The user has seconds for it while a browser is slow.
+TEST_F(Capture, TheDialogThatIsUsedMeanwhileComesAgainWithThePage) {
+    open(1);
+    answering("Netscape", "\"http://page/\",\"A page\"");
+    records().Row(1).Selected(true);
+    const std::function<void()> useIt[] = {[] { Form3.mnuAddEntry[1].onClick.raise(1); },
+                                           [] { Form3.mnuEdit.onClick.raise(0); }};
+    for (const auto& command : useIt) {
+        std::vector<std::string> shown;
+        driver::atPump(1, command);
+        driver::whenIdle([&] {
+            shown.push_back(shownUrl());
+            Form2.unload();
+            wake();
+        });
+        captureByMenu([&] {
+            EXPECT_EQ(modalOpen, D_NEW);
+            shown.push_back(shownUrl());
+        });
+        EXPECT_THAT(shown, ElementsAre(testing::Ne("http://page/"), "http://page/"));
+        EXPECT_EQ(modalOpen, 0);
+    }
+}
+
+TEST_F(Capture, ADialogThatCannotBeMadeLeavesNothingHeld) {
+    open(0);
+    openPage("page", "http://a/");
+    answering("Netscape", "\"u\",\"t\"");
+    for (const int browser : {0, 1}) {
+        browserType = browser;
+        driver::failCall("CreateWindowExA", 1, win::ERROR_ACCESS_DENIED);
+        Form3.mnuAddEntry[0].onClick.raise(0);
+        EXPECT_EQ(driver::faultsLeft(), 0);
+        EXPECT_FALSE(Form2.loaded());
+        EXPECT_EQ(modalOpen, 0);
+        EXPECT_EQ(urlsDirty, 0);
+    }
 }
 
 TEST_F(Capture, AMainWindowThatIsFlushedMeanwhileLeavesNothingHeld) {

@@ -265,6 +265,35 @@ TEST_F(DdeDelivery, EventsRunOnceForAnAnswerAndNotForAFailure) {
     EXPECT_EQ(driver::pumps(), before + 1);
 }
 
+// Flushes the main window and opens it again while Opera is asked.
+void openAnewUnderOpera() {
+    BrowserFixture::answering("Opera").answer = [](const std::string&, const std::string&) {
+        driver::atPump(1, [] {
+            Form3.mnuFree.onClick.raise(0);
+            Form3.Show();
+        });
+        return std::optional<std::string>("1");
+    };
+}
+
+TEST_F(DdeDelivery, AMainWindowThatIsOpenedAnewMeanwhileStaysAndIsNotUnsaved) {
+    open(2);
+    activeIcon = true;
+    openAnewUnderOpera();
+    visit("u");
+    EXPECT_TRUE(Form3.Visible());
+    EXPECT_EQ(urlsDirty, 0);
+}
+
+TEST_F(DdeDelivery, OneThatIsOpenedAnewUnderSendStaysAsWell) {
+    open(2);
+    activeIcon = true;
+    openAnewUnderOpera();
+    send("New Window");
+    EXPECT_TRUE(Form3.Visible());
+    EXPECT_EQ(urlsDirty, 0);
+}
+
 TEST_F(DdeDelivery, AMainWindowThatIsFlushedMeanwhileStaysGoneAndNothingIsUnsaved) {
     open(2);
     activeIcon = true;

@@ -4,15 +4,6 @@ namespace magpie {
 
 namespace driver = win::memory::driver;
 
-namespace {
-
-// Makes a modal loop look whether it is over.
-void wake() {
-    if (win::HWND window = win::GetActiveWindow()) win::PostMessageA(window, win::WM_NULL, 0, 0);
-}
-
-}  // namespace
-
 EntryFixture::~EntryFixture() {
     Form2.discard();
 }
@@ -20,6 +11,10 @@ EntryFixture::~EntryFixture() {
 void EntryFixture::open() {
     MenuFixture::open();
     urlsDirty = 0;
+}
+
+void EntryFixture::wake() {
+    if (win::HWND window = win::GetActiveWindow()) win::PostMessageA(window, win::WM_NULL, 0, 0);
 }
 
 void EntryFixture::asking(const std::function<void()>& command, const std::function<void()>& user) {

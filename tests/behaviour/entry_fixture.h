@@ -26,6 +26,8 @@ public:
     static void adding(const std::function<void()>& user);
     // The same by any other command.
     static void asking(const std::function<void()>& command, const std::function<void()>& user);
+    // Lets a loop whose dialog has gone look up.
+    static void wake();
 
     static void accept() { press(Form2.Command1); }
     static void cancel() { press(Form2.Command2); }

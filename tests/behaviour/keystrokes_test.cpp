@@ -2,7 +2,9 @@
 #include "browser/keystrokes.h"
 
 #include "browser/ie_keystrokes.h"
+#include "browser/send_url.h"
 #include "core/shutdown.h"
+#include "entries/frm_move.h"
 #include "platform/api/kernel32.h"
 #include "platform/memory/driver_system.h"
 #include "tests/behaviour/browser_fixture.h"
@@ -216,6 +218,47 @@ TEST_F(Keystrokes, AClipboardThatIsHeldForThreeSecondsIsWaitedForAndEventsRun) {
     EXPECT_EQ(looks, looksInThreeSeconds);
 }
 
+TEST_F(Keystrokes, AnotherDialogUnderTheWaitDoesNotLetTheInterfaceGo) {
+    open();
+    driver::openOtherWindow("IEFrame", ieTitle, [](int virtualKey, bool down) {
+        if (virtualKey == 'C' && down) driver::holdClipboard(true);
+    });
+    bool moved = false;
+    driver::whenIdle([&] {
+        moved = frmMove.loaded();
+        frmMove.unload();
+        wake();
+    });
+    driver::atPump(1, [] {
+        Form3.mnuMove.onClick.raise(0);
+        EXPECT_EQ(modalOpen, 0);
+    });
+    driver::atPump(2, [] {
+        EXPECT_EQ(modalOpen, D_NEW);
+        driver::holdClipboard(false);
+    });
+    records().Row(1).Selected(true);
+    captureByMenu([] { EXPECT_EQ(modalOpen, D_NEW); });
+    EXPECT_TRUE(moved);
+}
+
+TEST_F(Keystrokes, AWindowThatClosesUnderTheKeysLeavesTheAddressEmpty) {
+    open();
+    static win::HWND notes = nullptr;
+    static win::HWND browser = nullptr;
+    notes = driver::openOtherWindow("Notepad", "notes");
+    // Nothing is captured: it goes with its window.
+    browser = driver::openOtherWindow("IEFrame", ieTitle, [](int virtualKey, bool down) {
+        if (virtualKey != 'D' || down) return;
+        win::SetForegroundWindow(notes);
+        driver::closeOtherWindow(browser);
+    });
+    capture([] {
+        EXPECT_EQ(shownName(), "Front page");
+        EXPECT_EQ(shownUrl(), "");
+    });
+}
+
 TEST_F(Keystrokes, AnyFailureOfReadingIsTriedAgain) {
     open();
     openBrowser(ieTitle, "http://a/");
@@ -264,6 +307,25 @@ TEST_F(Keystrokes, AnAddressIsPastedAndTheMainWindowMakesRoom) {
     EXPECT_EQ(urlsDirty, 1);
 }
 
+// A main window that loses the activity hides by itself, but not while something is open.
+TEST_F(Keystrokes, APasteMakesRoomByItselfAndAFailedOneDoesNot) {
+    open();
+    activeIcon = true;
+    const win::HWND browser = openBrowser(ieTitle);
+    records().Row(1).Selected(true);
+    modalOpen = plainDialog;
+    sendURL("http://a/", false);
+    EXPECT_FALSE(Form3.Visible());
+    EXPECT_EQ(Form3.WindowState(), stateMinimised);
+    Form3.WindowState(stateNormal);
+    Form3.Show();
+    driver::retitleOtherWindow(browser, "Front page");
+    sendURL("http://a/", false);
+    EXPECT_TRUE(Form3.Visible());
+    EXPECT_THAT(started(), ElementsAre("IEXPLORE.EXE http://a/"));
+    modalOpen = 0;
+}
+
 TEST_F(Keystrokes, TheClipboardHasTheAddressBeforeTheKeysComeAndNotBefore) {
     open();
     std::vector<std::string> seen;
@@ -296,12 +358,13 @@ TEST_F(Keystrokes, WithoutItsWindowOrItsTitleNothingIsPasted) {
 
 TEST_F(Keystrokes, AClipboardThatIsHeldMakesThePasteFailAndTheBrowserStarts) {
     open();
-    activeIcon = true;
     openBrowser(ieTitle);
     driver::holdClipboard(true);
     visit("http://a/");
     EXPECT_THAT(started(), ElementsAre("IEXPLORE.EXE http://a/"));
     EXPECT_THAT(keys(), ElementsAre("18 down", "68 down", "68 up", "18 up"));
+    driver::holdClipboard(false);
+    EXPECT_THAT(driver::clipboardText(), Optional(std::string("the user's")));
 }
 
 TEST_F(Keystrokes, TheyLeaveNothingBehind) {

@@ -122,6 +122,13 @@ TEST_F(Dde, AProgramThatHangsHoldsWhoeverConnects) {
     EXPECT_GE(GetTickCount() - begin, 4000u);
 }
 
+TEST_F(Dde, AnInstanceEndsOnce) {
+    DWORD other = 0;
+    ASSERT_EQ(DdeInitializeA(&other, nothing, APPCMD_CLIENTONLY, 0), DMLERR_NO_ERROR);
+    EXPECT_TRUE(DdeUninitialize(other));
+    EXPECT_FALSE(DdeUninitialize(other));
+}
+
 TEST_F(Dde, ANameHas255BytesAtMostAndOneAtLeast) {
     HSZ longest = name(std::string(255, 'x'));
     EXPECT_NE(longest, nullptr);

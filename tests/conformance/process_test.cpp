@@ -20,6 +20,7 @@ std::string programPath() {
 
 TEST(Process, KnowsTheFileThatItRuns) {
     EXPECT_NE(GetModuleHandleA(nullptr), nullptr);
+    EXPECT_EQ(GetOwnModule(), GetModuleHandleA(nullptr));
     EXPECT_THAT(programPath(), testing::EndsWith(".exe"));
     EXPECT_EQ(programPath().substr(1, 2), ":\\");
     std::array<char, 300> path{};

@@ -26,6 +26,7 @@ use_dde_road() {
 
     run_dde_server "$service" refuse
     started_for "$file" 1 "$plain"
+    expect "it was asked" peer_wrote "request WWW_OpenURL \"$plain\",,-1$tail"
     end_peer
 
     # Wine tells nobody of a server that died, so it is silent, and a silent Netscape counts as
@@ -33,6 +34,7 @@ use_dde_road() {
     if [[ $service != Netscape ]]; then
         run_dde_server "$service" die
         started_for "$file" 1 "$plain"
+        expect "it was asked" peer_wrote "request WWW_OpenURL \"$plain\",,-1$tail"
         end_peer
     fi
 
@@ -49,8 +51,15 @@ use_internet_explorer() {
     run_browser IEFrame 'Start - Microsoft Internet Explorer' http://start/ Start
     double_click_record 2
     expect "it is sent there" wait_for 10 peer_wrote "navigate $odd"
-    expect_text "$(printf 'visible\nnavigate %s' "$odd")" "$(grep -v ready "$folder/peer.log")"
+    expect_text "$(printf 'visible\nasked\nnavigate %s' "$odd")" \
+        "$(grep -v ready "$folder/peer.log")"
     stays
+    end_peer
+
+    run_browser IEFrame 'Start - Microsoft Internet Explorer' http://start/ Start \
+        'Microsoft Internet Explorer' refuse
+    started_for IEXPLORE 1 "$plain"
+    expect "it was asked" peer_wrote asked
     end_peer
 
     # A folder's window has the same class and another program's name.

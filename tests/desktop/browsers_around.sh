@@ -46,13 +46,13 @@ end_peer() {
     other=
 }
 
-# run_dde_server SERVICE MANNER [REPLY]
+# run_dde_server SERVICE MANNER [REPLY]: a pause of its lasts longer than its part of a journey.
 run_dde_server() {
     printf '%s' "${3:-1}" >"$folder/reply.txt"
-    run_peer dde_server "$1" "$(peer_log)" "$2" "$(windows_path "$folder/reply.txt")"
+    run_peer dde_server "$1" "$(peer_log)" "$2" "$(windows_path "$folder/reply.txt")" 60
 }
 
-# run_browser CLASS TITLE ADDRESS [PAGE_TITLE [NAME]]: its window takes the foreground, so that
+# run_browser CLASS TITLE ADDRESS [PAGE_TITLE [NAME [MANNER]]]: its window takes the foreground, so that
 # the main window makes room, and is opened again.
 run_browser() {
     run_peer browser_double "$1" "$2" "$(peer_log)" "${@:3}"
@@ -70,9 +70,10 @@ use_browser() {
     open_by_pad
 }
 
+# end_program [SECONDS]: within that time.
 end_program() {
     choose_pad Unload
-    expect_end
+    expect_end "$@"
 }
 
 # click_record ROW [BUTTON]: in the title of that row, from 1.

@@ -6,24 +6,37 @@
 
 # A silent Netscape counts as served, a silent Opera does not.
 use_silent_netscape() {
-    local before
+    local before windows
     before=$(starts Netscape)
     use_browser 1
     run_dde_server Netscape silent
     double_click_record 1
     expect "it is asked" wait_for 10 peer_wrote "request WWW_OpenURL \"$plain\",,-1,7"
-    sleep 6
+    lives
+    # What the user does meanwhile waits for its turn.
+    windows=$(windows_of magpie.exe)
+    click_tray_icon 3
+    sleep 1
+    expect "no menu opens" not menu_beside "$windows"
+    expect "the menu opens" wait_for 8 menu_beside "$windows"
+    menu=$(menu_beside "$windows")
     stays
     expect_text "$before" "$(starts Netscape)"
+    click_row Unload "${tray_rows[@]}"
+    expect_end 4
+    expect "it is silent to the end" not peer_wrote late
     end_peer
-    end_program
 }
 
 use_silent_opera() {
+    local begun
     use_browser 2
     run_dde_server Opera silent
+    begun=$SECONDS
     started_for Opera 1 "$plain"
-    end_program
+    ((SECONDS - begun >= 5)) || fail "it was not waited for"
+    expect "it was asked" peer_wrote "request WWW_OpenURL \"$plain\",,-1"
+    end_program 4
     end_peer
 }
 
@@ -35,16 +48,44 @@ use_hanging_program() {
     use_browser 1
     run_dde_server Whoever hang
     double_click_record 1
-    sleep 6
+    sleep 1
+    lives
+    sleep 5
     stays
+    lives
     expect_text "$before" "$(starts Netscape)"
+    end_program 4
+    end_peer
+}
+
+# Automation has no end of its own.
+use_silent_internet_explorer() {
+    local before
+    before=$(starts IEXPLORE)
+    use_browser 0
+    serve_shell_windows
+    run_browser IEFrame 'Start - Microsoft Internet Explorer' http://start/ Start \
+        'Microsoft Internet Explorer' silent
+    double_click_record 1
+    expect "it is asked" wait_for 10 peer_wrote asked
+    expect "it is sent there" wait_for 15 peer_wrote "navigate $plain"
+    stays
+    lives
+    expect_text "$before" "$(starts IEXPLORE)"
     end_program
     end_peer
 }
 
+# lives: the main window answers what another program asks it, and soon.
+lives() {
+    [[ $(timeout 3 wine "$tools/window_reader.exe" panes 2>/dev/null </dev/null | tr -d '\r') == \
+        $'Viewed: 3\nTotal: 3' ]] || fail "the main window does not answer"
+}
+
 journey_begin
 write_stack_file
-for file in Netscape.exe Opera.EXE; do install_browser "$file"; done
+for file in IEXPLORE.EXE Netscape.exe Opera.EXE; do install_browser "$file"; done
 use_silent_netscape
 use_silent_opera
 use_hanging_program
+use_silent_internet_explorer

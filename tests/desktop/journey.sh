@@ -26,7 +26,7 @@ journey_begin() {
     # Captions drawn by Wine itself: windows stand where they are put, to the pixel.
     set_value 'HKCU\Software\Wine\X11 Driver' Decorated N
     rm -rf "$folder" "$pictures/failed-$journey.png"
-    mkdir -p "$folder"
+    mkdir -p "$folder" "$pictures"
     cp -r "$dist/Magpie.exe" "$dist/uBank" "$folder/"
     begin=$SECONDS
 }
@@ -94,10 +94,10 @@ line_seen() { sleep 4.3; }
 running() { kill -0 "$magpie_pid" 2>/dev/null; }
 ended() { ! running; }
 
-# expect_end: the program ends by itself, with exit code 0.
+# expect_end [SECONDS]: the program ends by itself within that time, with exit code 0.
 expect_end() {
     local status=0
-    expect "the program ends" wait_for 20 ended
+    expect "the program ends" wait_for "${1:-20}" ended
     wait "$magpie_pid" || status=$?
     ((status == 0)) || fail "exit status $status instead of 0"
 }

@@ -1,9 +1,10 @@
 // BrowserDouble: a window that stands in for a browser's.
-//   browser_double CLASS TITLE LOG ADDRESS [PAGE_TITLE [NAME]]
+//   browser_double CLASS TITLE LOG ADDRESS [PAGE_TITLE [NAME [MANNER]]]
 // With a page title it offers automation under the program name NAME ("Microsoft Internet
-// Explorer"). It shows ADDRESS, copies it for Ctrl+C, takes another one for Ctrl+V, and goes
-// there for Enter. It writes down "down KEY", "up KEY" and what comes of them, and ends when
-// its standard input does, or has a byte.
+// Explorer"). Sent to an address, it goes there; in the manner "refuse" it denies that, and in
+// the manner "silent" it takes eight seconds. It shows ADDRESS, copies it for Ctrl+C, takes another
+// one for Ctrl+V, and goes there for Enter. It writes down "down KEY", "up KEY" and what comes of
+// them, and ends when its standard input does, or has a byte.
 #include <cstring>
 #include <string>
 
@@ -87,6 +88,7 @@ int main(int count, char** arguments) {
     page.locationUrl = arguments[4];
     page.locationName = count > 5 ? arguments[5] : "";
     page.name = count > 6 ? arguments[6] : "Microsoft Internet Explorer";
+    page.manner = count > 7 ? arguments[7] : "";
     page.window = makeWindow(arguments[1], arguments[2]);
     if (count > 5 && !serveShellWindows(page)) return 1;
     CreateThread(nullptr, 0, watchInput, page.window, 0, nullptr);

@@ -77,8 +77,12 @@ public:
 
 private:
     HRESULT go(const DISPPARAMS& given) {
-        const VARIANT& address = given.rgvarg[given.cArgs - 1];
+        if (given.cArgs != 1) return DISP_E_BADPARAMCOUNT;
+        const VARIANT& address = given.rgvarg[0];
         if (address.vt != VT_BSTR) return DISP_E_TYPEMISMATCH;
+        page_.log("asked");
+        if (page_.manner == "refuse") return E_ACCESSDENIED;
+        if (page_.manner == "silent") Sleep(8000);
         page_.locationUrl = ansi(address.bstrVal);
         page_.log("navigate " + page_.locationUrl);
         return S_OK;

@@ -16,6 +16,7 @@ struct BrowserPage {
     std::string name;  // of the program
     std::string locationName;
     std::string locationUrl;
+    std::string manner;  // "refuse", "silent", else it does as it is told
     std::function<void(const std::string&)> log;
 };
 

@@ -1,12 +1,13 @@
 // DdeServer: a program that can be talked to by dynamic data exchange, as a browser can.
-//   dde_server SERVICE LOG MANNER [REPLY_FILE]
+//   dde_server SERVICE LOG MANNER [REPLY_FILE [SECONDS]]
 // It writes down "connect TOPIC" and "request TOPIC ITEM", and ends when its standard input
 // does, or has a byte. Its manner:
 //   answer   gives the bytes of REPLY_FILE, or without it 1
 //   refuse   takes conversations and refuses every request
-//   silent   answers a request after eight seconds
-//   hang     has a window that answers no message for eight seconds, and then answers
+//   silent   answers a request after SECONDS, 8 without them, or when it has to end
+//   hang     has a window that answers no message for as long, and then answers
 //   die      ends with the first request
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -21,12 +22,12 @@
 
 namespace {
 
-constexpr DWORD longSilence = 8000;  // milliseconds, past what anybody waits
-
 struct Server {
     DWORD instance = 0;
+    HANDLE ending = nullptr;  // an event
     std::string manner;
     std::string reply = "1";
+    DWORD pause = 8000;  // milliseconds, past what anybody waits
     PeerLog* log = nullptr;
 } server;
 
@@ -45,7 +46,7 @@ HDDEDATA answer(HSZ topic, HSZ item) {
     if (server.manner == "refuse") return nullptr;
     if (server.manner == "die") ExitProcess(1);
     if (server.manner == "silent") {
-        Sleep(longSilence);
+        WaitForSingleObject(server.ending, server.pause);
         server.log->line("late");
     }
     auto* bytes = reinterpret_cast<BYTE*>(server.reply.data());
@@ -67,6 +68,7 @@ DWORD WINAPI watchInput(void* window) {
     char byte = 0;
     DWORD read = 0;
     ReadFile(GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &read, nullptr);
+    SetEvent(server.ending);
     PostMessageA(static_cast<HWND>(window), WM_CLOSE, 0, 0);
     return 0;
 }
@@ -101,13 +103,15 @@ int main(int count, char** arguments) {
     server.log = &log;
     server.manner = arguments[3];
     if (count > 4) server.reply = bytesOf(arguments[4]);
+    if (count > 5) server.pause = 1000 * static_cast<DWORD>(std::atoi(arguments[5]));
+    server.ending = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     const HWND window = makeWindow();
     if (DdeInitializeA(&server.instance, served, APPCLASS_STANDARD, 0) != DMLERR_NO_ERROR) return 1;
     HSZ service = DdeCreateStringHandleA(server.instance, arguments[1], CP_WINANSI);
     DdeNameService(server.instance, service, nullptr, DNS_REGISTER);
     CreateThread(nullptr, 0, watchInput, window, 0, nullptr);
     log.line("ready");
-    if (server.manner == "hang") Sleep(longSilence);
+    if (server.manner == "hang") WaitForSingleObject(server.ending, server.pause);
     run();
     DdeNameService(server.instance, service, nullptr, DNS_UNREGISTER);
     DdeUninitialize(server.instance);
