@@ -25,7 +25,7 @@ HWND openOtherWindow(std::string_view className, std::string_view title,
 void closeOtherWindow(HWND window);
 void retitleOtherWindow(HWND window, std::string_view title);
 
-// The keys that the program has pressed so far, "18 down", with the window in the foreground.
+// The keys that the program has pressed so far, each with the window that was in the foreground.
 const std::vector<SentKey>& keysSent();
 
 // ---- Dynamic data exchange ---------------------------------------------------------

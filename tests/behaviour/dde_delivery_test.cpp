@@ -130,7 +130,7 @@ TEST_F(DdeDelivery, AFourthBrowserHasNoNameAndAFifthIsNone) {
     }
 }
 
-// Events -----------------------------------------------------------------------------------
+// What others send --------------------------------------------------------------------------
 
 TEST_F(DdeDelivery, WhatOthersSendIsAnsweredAtOnceAndNothingElseBeforeTheReply) {
     open(2);

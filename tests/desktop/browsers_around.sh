@@ -46,10 +46,11 @@ end_peer() {
     other=
 }
 
-# run_dde_server SERVICE MANNER [REPLY]: a pause of its lasts longer than its part of a journey.
+# run_dde_server SERVICE MANNER [REPLY [SECONDS]]: a pause of its lasts longer than its part of a
+# journey.
 run_dde_server() {
     printf '%s' "${3:-1}" >"$folder/reply.txt"
-    run_peer dde_server "$1" "$(peer_log)" "$2" "$(windows_path "$folder/reply.txt")" 60
+    run_peer dde_server "$1" "$(peer_log)" "$2" "$(windows_path "$folder/reply.txt")" "${4:-60}"
 }
 
 # run_browser CLASS TITLE ADDRESS [PAGE_TITLE [NAME [MANNER]]]: its window takes the foreground, so that
@@ -61,9 +62,9 @@ run_browser() {
     open_by_pad
 }
 
-# use_browser TYPE [FLAGS]: a run of the program with these settings and the pad on.
+# use_browser TYPE [FLAGS [NO_TRAY_ICON]]: a run of the program with these settings and the pad on.
 use_browser() {
-    setting ID '2 4500 17250 0 1 0 True False'
+    setting ID "2 4500 17250 0 1 0 ${3:-True} False"
     setting CF "$((8 + ${2:-0})) 3 $1 0 2 1 0 1500 1500 13500 7200 31 0 36500"
     setting CH '2400 2400 900 1200 1680 1680 720 '
     start_magpie

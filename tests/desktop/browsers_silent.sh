@@ -6,32 +6,44 @@
 
 # A silent Netscape counts as served, a silent Opera does not.
 use_silent_netscape() {
-    local before windows
+    local before
     before=$(starts Netscape)
     use_browser 1
     run_dde_server Netscape silent
     double_click_record 1
     expect "it is asked" wait_for 10 peer_wrote "request WWW_OpenURL \"$plain\",,-1,7"
     lives
-    # What the user does meanwhile waits for its turn.
+    sleep 6
+    stays
+    expect_text "$before" "$(starts Netscape)"
+    end_program 4
+    expect "it is silent to the end" not peer_wrote late
+    end_peer
+}
+
+# What the user does meanwhile waits for its turn.
+use_the_tray_icon_meanwhile() {
+    local windows
+    use_browser 1 0 False
+    run_dde_server Netscape silent
+    double_click_record 1
+    expect "it is asked" wait_for 10 peer_wrote "request WWW_OpenURL \"$plain\",,-1,7"
     windows=$(windows_of magpie.exe)
     click_tray_icon 3
     sleep 1
     expect "no menu opens" not menu_beside "$windows"
-    expect "the menu opens" wait_for 8 menu_beside "$windows"
+    expect "the menu opens" wait_for 10 menu_beside "$windows"
     menu=$(menu_beside "$windows")
-    stays
-    expect_text "$before" "$(starts Netscape)"
     click_row Unload "${tray_rows[@]}"
     expect_end 4
-    expect "it is silent to the end" not peer_wrote late
     end_peer
 }
 
 use_silent_opera() {
     local begun
     use_browser 2
-    run_dde_server Opera silent
+    # While it is silent nobody gets through to the others either.
+    run_dde_server Opera silent 1 8
     begun=$SECONDS
     started_for Opera 1 "$plain"
     ((SECONDS - begun >= 5)) || fail "it was not waited for"
@@ -87,5 +99,6 @@ write_stack_file
 for file in IEXPLORE.EXE Netscape.exe Opera.EXE; do install_browser "$file"; done
 use_silent_netscape
 use_silent_opera
+use_the_tray_icon_meanwhile
 use_hanging_program
 use_silent_internet_explorer
