@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "Pienest.h"
@@ -14,6 +15,7 @@
 // The SDK's base comes first.
 // clang-format off
 #include <windows.h>
+#include <commctrl.h>
 #include <htmlhelp.h>
 #include <shellapi.h>
 // clang-format on
@@ -35,33 +37,58 @@ void openTopic(const std::wstring& file, DWORD_PTR topic, HWND window) {
     if (htmlHelp != nullptr) htmlHelp(window, file.c_str(), HH_HELP_CONTEXT, topic);
 }
 
-// Who answers the Help button of the box that is up: the owner, or where that opens no topics, as
-// the tray, the library itself. A second box may come up over the first.
-class Helper {
+// The help of the box that comes up while it lives: by the box's Help button, which is without
+// effect under Wine, and by F1. The owner opens the topic, or where it opens none, as the tray, the
+// library itself.
+class BoxHelp {
 public:
-    Helper(const Host& owner, std::wstring file)
-        : owner_(owner), file_(std::move(file)), below_(std::exchange(latest, this)) {}
-    ~Helper() { latest = below_; }
-    Helper(const Helper&) = delete;
-    Helper& operator=(const Helper&) = delete;
+    BoxHelp(const Host& owner, std::wstring file) : owner_(owner), file_(std::move(file)) {
+        waiting = this;
+        hook_ = SetWindowsHookExW(WH_CBT, activated, nullptr, GetCurrentThreadId());
+    }
+    ~BoxHelp() { waitNoMore(); }
+    BoxHelp(const BoxHelp&) = delete;
+    BoxHelp& operator=(const BoxHelp&) = delete;
 
-    static void CALLBACK answer(HELPINFO* asked) {
-        guarded([asked] {
-            if (latest != nullptr)
-                latest->show(asked->dwContextId, static_cast<HWND>(asked->hItemHandle));
+private:
+    // The first dialog that becomes the active window is the box.
+    static LRESULT CALLBACK activated(int code, WPARAM wParam, LPARAM lParam) {
+        HWND window = reinterpret_cast<HWND>(wParam);
+        wchar_t name[8] = L"";
+        if (code == HCBT_ACTIVATE && waiting != nullptr && GetClassNameW(window, name, 8) != 0 &&
+            std::wstring_view(name) == L"#32770") {
+            SetWindowSubclass(window, listen, 0, reinterpret_cast<DWORD_PTR>(waiting));
+            waiting->waitNoMore();
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static LRESULT CALLBACK listen(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                   DWORD_PTR help) {
+        if (message == WM_HELP || (message == WM_COMMAND && LOWORD(wParam) == IDHELP)) {
+            reinterpret_cast<const BoxHelp*>(help)->show(box);
+            return TRUE;
+        }
+        if (message == WM_NCDESTROY) RemoveWindowSubclass(box, listen, 0);
+        return DefSubclassProc(box, message, wParam, lParam);
+    }
+
+    void show(HWND box) const {
+        guarded([this, box] {
+            if (!owner_.showHelp(helpAbout, box)) openTopic(file_, helpAbout, box);
             return S_OK;
         });
     }
 
-private:
-    void show(DWORD_PTR topic, HWND window) const {
-        if (!owner_.showHelp(static_cast<int>(topic), window)) openTopic(file_, topic, window);
+    void waitNoMore() {
+        if (waiting == this) waiting = nullptr;
+        if (HHOOK hook = std::exchange(hook_, nullptr)) UnhookWindowsHookEx(hook);
     }
 
-    static inline const Helper* latest = nullptr;
+    static inline BoxHelp* waiting = nullptr;
     const Host& owner_;
     std::wstring file_;
-    const Helper* below_;
+    HHOOK hook_ = nullptr;
 };
 
 std::wstring aboutText(LONG major, LONG minor, LONG revision) {
@@ -76,7 +103,7 @@ std::wstring aboutText(LONG major, LONG minor, LONG revision) {
 
 HRESULT showBox(const Host& owner, const std::wstring& folder, const std::wstring& text) {
     const std::wstring title = resourceText(ABOUT_TITLE);
-    const Helper helper(owner, folder + L"\\PNSHelp.chm");
+    const BoxHelp help(owner, folder + L"\\PNSHelp.chm");
     MSGBOXPARAMSW box{};
     box.cbSize = sizeof box;
     box.hwndOwner = owner.window();
@@ -85,8 +112,6 @@ HRESULT showBox(const Host& owner, const std::wstring& folder, const std::wstrin
     box.lpszCaption = title.c_str();
     box.dwStyle = MB_OK | MB_USERICON | MB_HELP | boxLevel();
     box.lpszIcon = MAKEINTRESOURCEW(ABOUT_ICON);
-    box.dwContextHelpId = static_cast<DWORD>(helpAbout);
-    box.lpfnMsgBoxCallback = Helper::answer;
     return MessageBoxIndirectW(&box) != 0 ? S_OK : E_FAIL;
 }
 
