@@ -18,12 +18,21 @@ namespace magpie {
 
 namespace {
 
+// An import that the main window has let go of has nobody to hear of it any more.
+template <class Routine>
+win::HRESULT heard(Routine routine) {
+    return answered([&routine] {
+        if (!Form3.mb) throw Failure{failure::objectNotSet};
+        routine();
+    });
+}
+
 win::HRESULT newGroup(LibraryArguments arguments, win::VARIANT*) {
-    return answered([=] { mb_NewGroup(argument<std::string>(arguments, 0)); });
+    return heard([=] { mb_NewGroup(argument<std::string>(arguments, 0)); });
 }
 
 win::HRESULT bungURL(LibraryArguments arguments, win::VARIANT*) {
-    return answered([=] {
+    return heard([=] {
         mb_BungURL(argument<std::string>(arguments, 0), argument<std::string>(arguments, 1));
     });
 }
@@ -38,8 +47,8 @@ constexpr win::DISPATCHMEMBER mbEvents[] = {
     {"storeLastRootOwner", pienest::storeLastRootOwner, win::DISPATCH_METHOD, storeLastRootOwner},
 };
 
-// The object, heard of its events. The main window has it as its own as long as it is there, and
-// the import goes on without the window.
+// The object, heard of its events. The main window has it as its own as long as it is there; the
+// call itself returns when the library is through with it.
 class Import {
 public:
     Import() { Form3.mb = object_; }

@@ -2,7 +2,7 @@
 # The help file is whole: tests/help.sh [PNSHelp.chm]
 # Lists its topics, and fails unless each topic of the table is there with its heading,
 # each context number leads to the topic that the table says, each link, picture and line of
-# contents and index leads to something in the file, and every topic is in the contents.
+# contents and index leads to something in the file, and every topic is in both of these.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 chm=$(realpath "${1:-$root/build/dist/PNSHelp.chm}")
@@ -58,6 +58,7 @@ check_table() {
         [[ -n $title ]] || complain "$file is missing or has no title"
         grep -qx "$number /$file" <<<"$found" || complain "Number $number does not lead to $file"
         grep -q "value=\"$file\"" "$inside/contents.hhc" || complain "$file is not in the contents"
+        grep -q "value=\"$file\"" "$inside/index.hhk" || complain "No keyword leads to $file"
     done
     [[ $(wc -l <<<"$found") == "$topics" ]] || complain "The file has other numbers than the table"
 }

@@ -52,7 +52,7 @@ find platform store core entries views mainwindow tray browser config companion 
     function facesWindows(path) {
         if (within(path, "companion/import"))
             return within(path, "companion/import/windows") && path ~ /\.cpp$/
-        return within(path, "platform/win32 companion tests/desktop") ||
+        return within(path, "platform/win32 companion/com tests/desktop") ||
             (path ~ /^tests\/conformance\/.*\.cpp$/ && path !~ /_test\.cpp$/)
     }
 

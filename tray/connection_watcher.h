@@ -5,7 +5,7 @@
 namespace magpie {
 
 // Timer1's tick. Does nothing while something holds the interface. Raises 53 or 453 without the
-// library that the line is asked by, and leaves everything as it was.
+// library that the line is asked by, and the line then counts as it was last seen.
 void Timer1_Timer();
 
 }  // namespace magpie

@@ -5,6 +5,7 @@
 #include "Pienest.h"
 #include "companion/com/dispatched.h"
 #include "companion/com/event_source.h"
+#include "companion/com/guarded.h"
 #include "companion/com/host.h"
 #include "companion/import/import.h"
 #include "companion/import/windows/disk.h"
@@ -74,9 +75,12 @@ private:
     HCURSOR before_;
 };
 
-void tell(HWND owner, const std::string& report) {
-    MessageBoxW(owner, wideOf(report).c_str(), resourceText(IMPORT_TITLE).c_str(),
-                MB_OK | MB_ICONINFORMATION);
+// Over the window that the user came from, which the box is to hold; `given` where the user has
+// turned to another program meanwhile.
+void tell(HWND given, const std::string& report) {
+    HWND active = GetActiveWindow();
+    MessageBoxW(active != nullptr ? active : given, wideOf(report).c_str(),
+                resourceText(IMPORT_TITLE).c_str(), MB_OK | MB_ICONINFORMATION | boxLevel());
 }
 
 // Empty where the user chose none.
@@ -106,28 +110,31 @@ public:
     }
 
     HRESULT STDMETHODCALLTYPE ImportFavorites(LONG window) noexcept override {
-        wchar_t folder[MAX_PATH] = L"";
-        if (!SHGetSpecialFolderPathW(nullptr, folder, CSIDL_FAVORITES, FALSE)) return E_FAIL;
-        return import(reinterpret_cast<HWND>(static_cast<std::intptr_t>(window)),
-                      [&folder](FolderFiles& files, ImportSink& sink) {
-                          return importFavorites(files, utf8OfWide(folder), options(), sink);
-                      });
+        return guarded([this, window] {
+            return import(reinterpret_cast<HWND>(static_cast<std::intptr_t>(window)),
+                          [](FolderFiles& files, ImportSink& sink) {
+                              wchar_t folder[MAX_PATH] = L"";
+                              if (!SHGetSpecialFolderPathW(nullptr, folder, CSIDL_FAVORITES, FALSE))
+                                  return ImportCounts{.unreadable = 1};
+                              return importFavorites(files, utf8OfWide(folder), options(), sink);
+                          });
+        });
     }
 
     // The file is the user's choice whatever the flag says.
     HRESULT STDMETHODCALLTYPE ImportNetscape(VARIANT_BOOL) noexcept override {
-        const HWND owner = host_.window();
-        const std::wstring file = chosenBookmarkFile(owner);
-        if (file.empty()) return S_OK;
-        return import(owner, [&file](FolderFiles& files, ImportSink& sink) {
-            return importBookmarkFile(files, utf8OfWide(file), options(), sink);
+        return guarded([this]() -> HRESULT {
+            const HWND owner = host_.window();
+            const std::wstring file = chosenBookmarkFile(owner);
+            if (file.empty()) return S_OK;
+            return import(owner, [&file](FolderFiles& files, ImportSink& sink) {
+                return importBookmarkFile(files, utf8OfWide(file), options(), sink);
+            });
         });
     }
 
-    HRESULT STDMETHODCALLTYPE lastRootOwner(LONG number) noexcept override {
-        lastRootOwner_ = number;
-        return S_OK;
-    }
+    // Groups come by their names alone, so that nothing here goes by their numbers.
+    HRESULT STDMETHODCALLTYPE lastRootOwner(LONG) noexcept override { return S_OK; }
 
 protected:
     void* otherInterface(REFIID id) noexcept override {
@@ -153,7 +160,6 @@ private:
     }
 
     Host host_;
-    LONG lastRootOwner_ = -1;  // the host's number of the group for links of no folder
     EventSource events_{*this, DIID_DmbEvents};
 };
 

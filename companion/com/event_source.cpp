@@ -1,5 +1,7 @@
 #include "companion/com/event_source.h"
 
+#include "companion/com/guarded.h"
+
 namespace magpie {
 
 EventSource::~EventSource() {
@@ -62,9 +64,13 @@ HRESULT EventSource::Advise(IUnknown* sink, DWORD* cookie) noexcept {
     if (FAILED(sink->QueryInterface(events_, reinterpret_cast<void**>(&listener))) &&
         FAILED(sink->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&listener))))
         return CONNECT_E_CANNOTCONNECT;
-    listeners_[++lastCookie_] = listener;
-    *cookie = lastCookie_;
-    return S_OK;
+    const HRESULT kept = guarded([&] {
+        listeners_[lastCookie_ + 1] = listener;
+        *cookie = ++lastCookie_;
+        return S_OK;
+    });
+    if (FAILED(kept)) listener->Release();
+    return kept;
 }
 
 HRESULT EventSource::Unadvise(DWORD cookie) noexcept {

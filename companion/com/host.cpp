@@ -37,14 +37,15 @@ std::wstring Host::findCurrentVersion(const wchar_t* exeName) const {
     return path;
 }
 
-void Host::showHelp(int topic, HWND window) const {
+bool Host::showHelp(int topic, HWND window) const {
     VARIANT handed[2];
     for (VARIANT& each : handed) VariantInit(&each);
     handed[0].vt = VT_I8;
     handed[0].llVal = reinterpret_cast<std::intptr_t>(window);
     handed[1].vt = VT_I4;
     handed[1].lVal = topic;
-    call(L"out_ShowHelpID", DISPATCH_METHOD, handed, 2, nullptr);
+    const HRESULT shown = call(L"out_ShowHelpID", DISPATCH_METHOD, handed, 2, nullptr);
+    return form_ != nullptr && shown != DISP_E_UNKNOWNNAME;
 }
 
 HRESULT Host::call(const wchar_t* member, WORD kind, VARIANT* arguments, UINT count,

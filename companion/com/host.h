@@ -11,7 +11,8 @@
 
 namespace magpie {
 
-// Held while it lives. Without a form, or where the form has no such member, the calls are empty.
+// Held while it lives. Without a form, or where the form has no such member, the calls come to
+// nothing.
 class Host {
 public:
     Host() = default;
@@ -26,8 +27,9 @@ public:
     HWND window() const;
     // Where the browser of this file is installed; empty for one that is not.
     std::wstring findCurrentVersion(const wchar_t* exeName) const;
-    // The help topic of this number, over a window.
-    void showHelp(int topic, HWND window) const;
+    // The help topic of this number, over a window. False where the form opens no topics; one that
+    // fails to open it has had its try.
+    bool showHelp(int topic, HWND window) const;
 
 private:
     // The last argument comes first.

@@ -2,6 +2,7 @@
 #include "Pienest.h"
 #include "companion/com/about_box.h"
 #include "companion/com/bookmark_import.h"
+#include "companion/com/guarded.h"
 #include "companion/com/module.h"
 #include "companion/com/preferences.h"
 
@@ -26,10 +27,12 @@ public:
                                              void** object) noexcept override {
         *object = nullptr;
         if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-        IDispatch* made = maker_();
-        const HRESULT answer = made->QueryInterface(id, object);
-        made->Release();
-        return answer;
+        return guarded([&] {
+            IDispatch* made = maker_();
+            const HRESULT answer = made->QueryInterface(id, object);
+            made->Release();
+            return answer;
+        });
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override {
         liveObjects() += lock ? 1 : -1;

@@ -14,11 +14,15 @@ namespace magpie {
 HINSTANCE moduleHandle();
 
 // The description of an interface in the library's own type library; the caller's to release.
-HRESULT typeInfo(REFIID id, ITypeInfo** info);
+HRESULT typeInfo(REFIID id, ITypeInfo** info) noexcept;
 
 LONG& liveObjects();
 
 // A string of the library's resources.
 std::wstring resourceText(UINT id);
+
+// What the style of a message box needs so that no window of the program covers it: MB_TOPMOST
+// while one is always on top, else 0.
+UINT boxLevel();
 
 }  // namespace magpie

@@ -10,6 +10,7 @@
 #include "Pienest.h"
 #include "companion/com/dispatched.h"
 #include "companion/com/event_source.h"
+#include "companion/com/guarded.h"
 #include "companion/com/host.h"
 // clang-format on
 
@@ -103,6 +104,25 @@ public:
 
     HRESULT STDMETHODCALLTYPE Show(VARIANT* result) noexcept override {
         VariantInit(result);
+        // The host may give the object up while the dialog is up.
+        AddRef();
+        const HRESULT answer = guarded([this] {
+            edit();
+            return S_OK;
+        });
+        Release();
+        return answer;
+    }
+
+protected:
+    void* otherInterface(REFIID id) noexcept override {
+        return id == IID_IConnectionPointContainer
+                   ? static_cast<IConnectionPointContainer*>(&events_)
+                   : nullptr;
+    }
+
+private:
+    void edit() {
         startControls();
         companion::PreferencesHost host;
         host.findCurrentVersion = [this](const std::string& file) {
@@ -115,21 +135,9 @@ public:
         host.help = [this](companion::PreferencesPage page) {
             host_.showHelp(topicOf(page), reinterpret_cast<HWND>(companion::Preferences.hWnd()));
         };
-        // The host may give the object up while the dialog is up.
-        AddRef();
         companion::editPreferences(settings_, host, reinterpret_cast<win::HWND>(host_.window()));
-        Release();
-        return S_OK;
     }
 
-protected:
-    void* otherInterface(REFIID id) noexcept override {
-        return id == IID_IConnectionPointContainer
-                   ? static_cast<IConnectionPointContainer*>(&events_)
-                   : nullptr;
-    }
-
-private:
     companion::PreferenceSettings settings_;
     BSTR appPath_ = nullptr;
     Host host_;

@@ -110,23 +110,44 @@ void centre() {
     Preferences.Top(std::max(area.top * y, std::min(top, area.bottom * y - Preferences.Height())));
 }
 
+// A host takes no news of a pad that shows with the line only. Such a pad is one that always shows
+// for a moment, and goes or comes as that.
 void apply() {
     const PreferenceSettings wanted = shown();
     if (wanted == current) return;
+    const bool padFirst = wanted.activeIcon != current.activeIcon && wanted.onlineOnly;
     current = wanted;
-    currentHost->apply(current);
+    if (padFirst) {
+        PreferenceSettings before = wanted;
+        before.onlineOnly = false;
+        currentHost->apply(before);
+    }
+    currentHost->apply(wanted);
 }
+
+// What the dialog that is up works on; it goes also where the dialog could not come up whole.
+class Editing {
+public:
+    Editing(const PreferenceSettings& settings, const PreferencesHost& host, win::HWND owner) {
+        current = settings;
+        currentHost = &host;
+        currentOwner = owner;
+    }
+    ~Editing() {
+        Preferences.discard();
+        currentHost = nullptr;
+    }
+    Editing(const Editing&) = delete;
+    Editing& operator=(const Editing&) = delete;
+};
 
 }  // namespace
 
 PreferenceSettings editPreferences(const PreferenceSettings& settings, const PreferencesHost& host,
                                    win::HWND owner) {
     if (Preferences.loaded()) return settings;
-    current = settings;
-    currentHost = &host;
-    currentOwner = owner;
+    const Editing editing(settings, host, owner);
     Preferences.showModal(owner);
-    currentHost = nullptr;
     return current;
 }
 

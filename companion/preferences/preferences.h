@@ -20,7 +20,8 @@ struct PreferencesHost {
 
 // Shows the dialog over `owner`, which it holds meanwhile, and returns when it has gone, or at
 // once while one is up. Every Apply, and OK, hands settings over that differ from the last ones
-// handed over; the others nothing. Answers the settings as they are then.
+// handed over, in two steps where the host would not take them in one; the others nothing. Answers
+// the settings as they are then. Raises 7 where a window cannot be made, and no dialog is left.
 PreferenceSettings editPreferences(const PreferenceSettings& settings, const PreferencesHost& host,
                                    win::HWND owner);
 

@@ -2,6 +2,8 @@
 #include <initializer_list>
 
 #include "companion/preferences/preferences_form.h"
+#include "platform/controls/tool_tips.h"
+#include "platform/services/screen.h"
 
 namespace magpie::companion {
 
@@ -34,8 +36,17 @@ void makeChoice(Frame& page, int row, Label& label, const char* caption, ComboBo
     field.ToolTipText(tip);
 }
 
+Place tickPlace(int row) {
+    return {left, rowTop(row) + 30, pageWidth - 2 * left, 255};
+}
+
+win::RECT inPixels(const Place& place) {
+    return {pixelsX(place.left), pixelsY(place.top), pixelsX(place.left + place.width),
+            pixelsY(place.top + place.height)};
+}
+
 void makeTick(Frame& page, int row, CheckBox& box, const char* caption, const char* tip) {
-    box.create(page, {left, rowTop(row) + 30, pageWidth - 2 * left, 255}, caption);
+    box.create(page, tickPlace(row), caption);
     box.ToolTipText(tip);
 }
 
@@ -44,7 +55,7 @@ void makeBrowserPage(Frame& page) {
                {"Internet Explorer", "Netscape", "Opera"},
                "The browser that bookmarks are sent to and pages are taken from");
     makeTick(page, 1, Preferences.useKeystrokes, "Drive Internet Explorer by &keystrokes",
-             "Address and title go through the clipboard, as if you had typed them");
+             "Addresses go through the clipboard; what was on it is lost");
     Preferences.installedLabel.create(page, {left, rowTop(2) + 180, pageWidth - 2 * left, 195},
                                       "Found on this computer:");
     constexpr const char* names[] = {"Internet Explorer", "Netscape", "Opera"};
@@ -62,7 +73,7 @@ void makeLinePage(Frame& page) {
                {"a dial-up connection is up", "Windows reports a connection", "always"},
                "How Magpie tells whether the computer is online");
     makeTick(page, 1, Preferences.onlineAction, "Open the &main window when the line comes up",
-             "The main window comes up by itself each time the computer goes online");
+             "With the pad on it is only loaded, and a click on the pad shows it");
     makeTick(page, 2, Preferences.trayIcon, "Show an &icon in the notification area",
              "The icon beside the clock, with the menu of the pad");
     makeTick(page, 3, Preferences.activeIcon, "Show the &pad",
@@ -79,20 +90,25 @@ void makeWindowPage(Frame& page) {
                "The edge of the main window that its two tabs stand on");
     makeTick(page, 1, Preferences.mainOnTop, "Keep the main &window on top of other windows",
              "The main window then covers other programs until it is closed");
-    makeTick(page, 2, Preferences.fullWindow, "The list fills the whole main window",
-             "Shown here only: the Escape key in the main window changes it");
+    Preferences.fullWindow.create(page, tickPlace(2), "Th&e list fills the whole main window");
     Preferences.fullWindow.Enabled(false);
+    // The mouse over a disabled control is over what lies below it.
+    Preferences.toolTips().tellPart(
+        page.hWnd(), 0, inPixels(tickPlace(2)),
+        "Shown here only: the Escape key in the main window changes it");
 }
 
 void makeFilesPage(Frame& page) {
     makeTick(page, 0, Preferences.autoLoadURLs, "&Load the bookmarks when the main window opens",
              "Otherwise the window opens empty, until you load them by its menu");
-    makeTick(page, 1, Preferences.autoSaveURLs, "Save changed bookmarks when it &closes",
+    makeTick(page, 1, Preferences.autoSaveURLs,
+             "Save &changed bookmarks when they leave the memory",
              "The file before the change is kept as a backup");
-    makeTick(page, 2, Preferences.autoLoadSettings, "Load its settin&gs when it opens",
-             "Place, tab, group, columns and masks of the last time");
-    makeTick(page, 3, Preferences.autoSaveSettings, "Sa&ve its settings when it closes",
-             "For the next time that it opens");
+    makeTick(page, 2, Preferences.autoLoadSettings, "Load the settin&gs when the main window opens",
+             "Place, tab, group, columns, the pages Browser and Window, copies in Favorites");
+    makeTick(page, 3, Preferences.autoSaveSettings,
+             "Sa&ve the settings when the bookmarks leave the memory",
+             "The same; without it they are saved by \"Save Settings\" in the menu alone");
     makeChoice(page, 5, Preferences.shortcutLabel,
                "Copies in &Favorites:", Preferences.shortcutMode, "Copies in Favorites",
                {"none", "in a folder for each group", "all in one folder"},

@@ -8,8 +8,9 @@
 
 namespace win {
 
-// 0 and an object of this class, made by the class factory of the library at this full path; else
-// the error and null. The registry is not asked. The library then stays loaded.
+// 0 and an object of this class, made by the class factory of the library at this full path, on a
+// drive or a share; else the error and null. The registry is not asked. The library stays loaded
+// once it has made an object.
 HRESULT CoCreateInstanceFrom(const char* libraryPath, const CLSID& classId, IDispatch** object);
 
 // What answers a member: 0, or a failure that the caller gets to see. What is among the

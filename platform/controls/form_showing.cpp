@@ -21,6 +21,37 @@ Form* modalForm() {
     return latest;
 }
 
+// The dialog of another module, as of a library, that holds this window; null without one.
+win::HWND holderFromOutside(win::HWND window) {
+    struct Search {
+        win::HWND held;
+        win::HWND found = nullptr;
+    } search{window};
+    win::EnumWindows(
+        [](win::HWND each, win::LPARAM parameter) -> win::BOOL {
+            auto& wanted = *reinterpret_cast<Search*>(parameter);
+            const auto style = win::GetWindowLongPtrA(each, win::GWL_EXSTYLE);
+            const bool dialog = win::GetWindow(each, win::GW_OWNER) == wanted.held &&
+                                (style & win::WS_EX_TOOLWINDOW) == 0 && win::IsWindowVisible(each);
+            if (dialog && win::IsWindowEnabled(each)) wanted.found = each;
+            return wanted.found == nullptr;
+        },
+        reinterpret_cast<win::LPARAM>(&search));
+    return search.found;
+}
+
+// Under Wine neither the foreground nor the top of the order brings a window before another one
+// while some window, as the pad, is always on top; to go up there and down again does.
+void bringBack(win::HWND window) {
+    const bool alwaysOnTop =
+        (win::GetWindowLongPtrA(window, win::GWL_EXSTYLE) & win::WS_EX_TOPMOST) != 0;
+    for (win::HWND level : {win::HWND_TOPMOST, win::HWND_NOTOPMOST})
+        if (!alwaysOnTop)
+            win::SetWindowPos(window, level, 0, 0, 0, 0,
+                              win::SWP_NOMOVE | win::SWP_NOSIZE | win::SWP_NOACTIVATE);
+    win::SetForegroundWindow(window);
+}
+
 }  // namespace
 
 bool Form::Visible() {
@@ -45,17 +76,15 @@ void Form::Show() {
     // An event of the showing may have taken the form away.
     if (!loaded()) return;
     win::SetForegroundWindow(window_);
-    if (Form* holder = modalForm(); holder != nullptr && !win::IsWindowEnabled(window_))
+    if (win::IsWindowEnabled(window_)) return;
+    if (Form* holder = modalForm())
         holder->comeBack();
+    else if (win::HWND outside = holderFromOutside(window_))
+        bringBack(outside);
 }
 
-// Under Wine neither the foreground nor the top of the order brings a window before another one
-// while some window, as the pad, is always on top; to go up there and down again does.
 void Form::comeBack() {
-    for (win::HWND level : {win::HWND_TOPMOST, win::HWND_NOTOPMOST})
-        win::SetWindowPos(window_, level, 0, 0, 0, 0,
-                          win::SWP_NOMOVE | win::SWP_NOSIZE | win::SWP_NOACTIVATE);
-    win::SetForegroundWindow(window_);
+    bringBack(window_);
 }
 
 void Form::reveal() {
@@ -86,12 +115,16 @@ void Form::WindowState(int state) {
 }
 
 void Form::showModal(win::HWND outer) {
+    // Also a form that fails to load is nobody's the next time.
+    struct Owned {
+        Form& form;
+        ~Owned() { form.outer_ = nullptr; }
+    } const owned{*this};
     outer_ = outer;
     load();
     beginModal();
     Show();
     pumpWhile([](void* form) { return static_cast<Form*>(form)->modal_; }, this);
-    outer_ = nullptr;
 }
 
 void Form::beginModal() {

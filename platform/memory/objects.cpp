@@ -92,6 +92,7 @@ HRESULT LibraryObject::invoke(std::string_view name, WORD kind, Arguments argume
         if (onPut) onPut(name, arguments[0]);
         return 0;
     }
+    if (onGet) onGet(name);
     *result = property->second;
     hold(*result, 1);
     return 0;

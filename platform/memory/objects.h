@@ -48,6 +48,7 @@ struct LibraryObject : IDispatch {
     std::map<std::string, VARIANT, std::less<>> properties;
     std::map<std::string, Method, std::less<>> methods;
     std::function<void(std::string_view name, const VARIANT& value)> onPut{};
+    std::function<void(std::string_view name)> onGet{};
     CLSID events{};  // the interface of its events
     std::map<DWORD, IDispatch*> listeners{};
     DWORD lastCookie = 0;

@@ -54,12 +54,14 @@ void AutomationObject::put(const char* property, const win::VARIANT& value) cons
 }
 
 void AutomationObject::call(const char* method, const win::VARIANT& argument) const {
-    invoke(method, win::DISPATCH_METHOD, {&argument, 1});
+    call(method, std::initializer_list<win::VARIANT>{argument});
 }
 
 void AutomationObject::call(const char* method,
                             std::initializer_list<win::VARIANT> arguments) const {
-    invoke(method, win::DISPATCH_METHOD, {arguments.begin(), arguments.size()});
+    if (win::IDispatch_Invoke(object_, method, win::DISPATCH_METHOD,
+                              {arguments.begin(), arguments.size()}, nullptr) < 0)
+        throw Failure{failure::automation};
 }
 
 AutomationObject AutomationObject::item(std::int64_t at) const {

@@ -34,6 +34,7 @@ public:
     std::int64_t number(const char* property) const;
     bool truth(const char* property) const;
     void put(const char* property, const win::VARIANT& value) const;
+    // Whatever comes back is dropped, of whatever kind it is.
     void call(const char* method, const win::VARIANT& argument) const;
     void call(const char* method, std::initializer_list<win::VARIANT> arguments) const;
     AutomationObject item(std::int64_t at) const;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -35,8 +36,34 @@ private:
     ::DWORD before_ = 0;
 };
 
+// On a drive, or on a share of another computer.
 bool isFullPath(const char* path) {
-    return path[0] != '\0' && path[1] == ':' && path[2] == '\\';
+    const bool drive = path[0] != '\0' && path[1] == ':' && path[2] == '\\';
+    return drive || (path[0] == '\\' && path[1] == '\\');
+}
+
+// Whoever calls an object of the program's own is told of want of memory: nothing unwinds into
+// another module.
+template <class Routine>
+::HRESULT guarded(Routine&& routine) noexcept {
+    try {
+        return routine();
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    }
+}
+
+::HRESULT makeObject(::HMODULE library, const CLSID& classId, IDispatch** object) {
+    auto* const getClass = reinterpret_cast<::LPFNGETCLASSOBJECT>(
+        reinterpret_cast<void (*)()>(::GetProcAddress(library, "DllGetClassObject")));
+    if (getClass == nullptr) return HRESULT_FROM_WIN32(ERROR_PROC_NOT_FOUND);
+    ::IClassFactory* factory = nullptr;
+    ::HRESULT result =
+        getClass(native(classId), IID_IClassFactory, reinterpret_cast<void**>(&factory));
+    if (FAILED(result)) return result;
+    result = factory->CreateInstance(nullptr, IID_IDispatch, reinterpret_cast<void**>(object));
+    factory->Release();
+    return result;
 }
 
 class MemberTable final : public ::IDispatch {
@@ -72,9 +99,11 @@ public:
     ::HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, ::LPOLESTR* names, ::UINT count, ::LCID,
                                               ::DISPID* ids) noexcept override {
         std::fill_n(ids, count, DISPID_UNKNOWN);
-        for (const DISPATCHMEMBER& each : members_)
-            if (::_wcsicmp(wide(each.name).c_str(), names[0]) == 0) ids[0] = each.id;
-        return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+        return guarded([&] {
+            for (const DISPATCHMEMBER& each : members_)
+                if (::_wcsicmp(wide(each.name).c_str(), names[0]) == 0) ids[0] = each.id;
+            return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+        });
     }
 
     ::HRESULT STDMETHODCALLTYPE Invoke(::DISPID id, REFIID, ::LCID, ::WORD kind,
@@ -84,13 +113,15 @@ public:
             return each.id == id && (each.kinds & kind) != 0;
         });
         if (found == members_.end()) return DISP_E_MEMBERNOTFOUND;
-        Lent arguments;
-        if (const ::HRESULT failed = arguments.read(*handed); FAILED(failed)) return failed;
-        VARIANT answer;
-        const ::HRESULT done = found->call(arguments.values, &answer);
-        if (FAILED(done) || result == nullptr) return done;
-        *result = Value(answer).release();
-        return done;
+        return guarded([&] {
+            Lent arguments;
+            if (const ::HRESULT failed = arguments.read(*handed); FAILED(failed)) return failed;
+            VARIANT answer;
+            const ::HRESULT done = found->call(arguments.values, &answer);
+            if (FAILED(done) || result == nullptr) return done;
+            *result = Value(answer).release();
+            return done;
+        });
     }
 
 private:
@@ -148,16 +179,10 @@ HRESULT CoCreateInstanceFrom(const char* libraryPath, const CLSID& classId, IDis
     const QuietErrors quiet;
     ::HMODULE library = ::LoadLibraryExA(libraryPath, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (library == nullptr) return HRESULT_FROM_WIN32(::GetLastError());
-    auto* const getClass = reinterpret_cast<::LPFNGETCLASSOBJECT>(
-        reinterpret_cast<void (*)()>(::GetProcAddress(library, "DllGetClassObject")));
-    if (getClass == nullptr) return HRESULT_FROM_WIN32(ERROR_PROC_NOT_FOUND);
-    ::IClassFactory* factory = nullptr;
-    ::HRESULT result =
-        getClass(native(classId), IID_IClassFactory, reinterpret_cast<void**>(&factory));
-    if (FAILED(result)) return result;
-    result = factory->CreateInstance(nullptr, IID_IDispatch, reinterpret_cast<void**>(object));
-    factory->Release();
-    return result;
+    const ::HRESULT made = makeObject(library, classId, object);
+    // A library that is of no use is let go, so that a better one can be put in its place.
+    if (FAILED(made)) ::FreeLibrary(library);
+    return made;
 }
 
 IDispatch* CreateStdDispatch(std::span<const DISPATCHMEMBER> members) {

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Takes the help's pictures anew from those that the desktop journeys leave in
 # build/screenshots: run the journeys first (pictures, faces, menus, entries, bulk,
-# find_and_masks). The results are checked in.
+# find_and_masks, preferences, companion). The results are checked in.
 #   ./resources/help/take_pictures.sh [folder of screenshots]
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
@@ -30,6 +30,9 @@ window mask-filters mask_filters
 window find find
 window move move
 window confirm-delete confirm_delete
+for page in browser line window files; do window "preferences-$page" "preferences_$page"; done
+window companion-about about
+window companion-import import_report
 window tray-menu tray_menu
 for state in offline flushed ready held; do window "pad-$state" "pad_$state"; done
 part menu-main-standard main_menu 410x330+370+50

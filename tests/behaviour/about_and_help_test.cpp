@@ -4,6 +4,9 @@
 #include "config/companion.h"
 #include "config/help.h"
 #include "core/misc.h"
+#include "entries/edit_entry.h"
+#include "entries/form2.h"
+#include "entries/url_information.h"
 #include "platform/memory/driver_line.h"
 #include "tests/behaviour/companion_fixture.h"
 #include "tests/unit/runtime/failure_of.h"
@@ -50,8 +53,8 @@ TEST_F(AboutAndHelp, TheAboutBoxGetsItsOwnerTheFolderAndTheVersion) {
     });
     chooseFromMenu("About");
     EXPECT_TRUE(shown);
-    EXPECT_THAT(arguments, ElementsAre(std::string("C:\\Magpie"), number(1), number(0), number(0),
-                                       number(flag)));
+    EXPECT_THAT(arguments, ElementsAre(std::string("C:\\Magpie"), number(11), number(12),
+                                       number(13), number(flag)));
     EXPECT_EQ(driver::objects(), 0);
 }
 
@@ -93,6 +96,39 @@ TEST_F(AboutAndHelp, FromTheTrayTheMainWindowKeepsItsLevel) {
     chooseFromTray("About");
     EXPECT_THAT(done, ElementsAre("About()"));
     EXPECT_TRUE(onTop(Form3));
+}
+
+// It gives the interface back as it found it free, also where a dialog has it: that one then has
+// nothing to accept.
+TEST_F(AboutAndHelp, FromTheTrayUnderADialogItTakesTheInterfaceFromTheDialog) {
+    open();
+    clickTab(2);
+    bool asked = false;
+    driver::whenIdle([&] {
+        asked = true;
+        ASSERT_TRUE(Form2.loaded());
+        Form2.Text1[0].Text("Another name");
+        during("About", [](Library&) { EXPECT_EQ(modalOpen, 1); });
+        chooseFromTray("About");
+        EXPECT_TRUE(Form2.loaded());
+        EXPECT_EQ(modalOpen, 0);
+        acceptEntry_Click();
+        EXPECT_FALSE(Form2.loaded());
+        win::PostMessageA(Form3.hWnd(), win::WM_NULL, 0, 0);
+    });
+    mnuEdit_Click();
+    EXPECT_TRUE(asked);
+    EXPECT_THAT(done, ElementsAre("About()"));
+    EXPECT_THAT(titlesInView(), testing::Not(testing::Contains("Another name")));
+    EXPECT_EQ(urlsDirty, 0);
+}
+
+TEST_F(AboutAndHelp, TheProgramsEndUnderTheAboutBoxTakesEverythingAlong) {
+    open();
+    during("About", [](Library&) { chooseFromTray("Unload"); });
+    chooseFromMenu("About");
+    EXPECT_EQ(driver::objects(), 0);
+    expectGone();
 }
 
 TEST_F(AboutAndHelp, TheMakersAddressesHaveNumbers) {

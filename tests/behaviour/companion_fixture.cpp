@@ -35,6 +35,7 @@ void CompanionFixture::layOut(Library& object, const std::vector<std::string>& p
     object.events = events;
     for (const std::string& name : properties) object.properties[name];
     object.onPut = [this](std::string_view name, const win::VARIANT&) { done.emplace_back(name); };
+    object.onGet = [this](std::string_view name) { read.emplace_back(name); };
     for (const std::string& name : methods)
         object.methods[name] = [this, name, &object](win::Arguments handed, win::VARIANT*) {
             done.push_back(name + "()");

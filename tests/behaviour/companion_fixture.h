@@ -22,9 +22,10 @@ public:
     // Lets the call fail behind that.
     void failing(const std::string& method) { failing_ = method; }
 
-    // What was put and called, in order: "lineCheck", "Show()". `arguments` are those of the last
-    // call.
+    // What was put and called, in order: "lineCheck", "Show()"; and what was read. `arguments` are
+    // those of the last call.
     std::vector<std::string> done;
+    std::vector<std::string> read;
     std::vector<win::VARIANT> arguments;
 
     // Calls a member of an object that the library was given.

@@ -312,6 +312,22 @@ TEST_F(ConnectionWatcher, ThePadIsOnTopWhileTheLineIsUpAndTheSettingSaysSo) {
     EXPECT_FALSE(isTopMost());
 }
 
+// As the Preferences can have it.
+TEST_F(ConnectionWatcher, APadThatIsOffDoesNotComeWithTheLineEither) {
+    startByDialUp();
+    toggleActiveIcon();
+    onlineOnly = true;
+    connect();
+    tick();
+    EXPECT_EQ(lastLine, 2);
+    EXPECT_FALSE(Form1.Visible());
+    Form1.Show();
+    disconnect();
+    tick();
+    EXPECT_EQ(lastLine, 1);
+    EXPECT_FALSE(Form1.Visible());
+}
+
 TEST_F(ConnectionWatcher, WithThePadOffItsLevelIsLeftAlone) {
     startByDialUp();
     toggleActiveIcon();
@@ -361,11 +377,38 @@ TEST_F(ConnectionWatcher, ATickInsideTheMainWindowsLoadDoesNoHarm) {
     startByDialUp(1);
     tick();
     connect();
-    driver::atPump(1, [] { driver::advance(4000); });
+    int before = 0;
+    int after = 0;
+    driver::atPump(1, [&] {
+        before = driver::lineQuestions().states;
+        driver::advance(4000);
+        after = driver::lineQuestions().states;
+    });
     driver::advance(4000);
+    EXPECT_EQ(after, before + 1) << "no tick came inside the load";
     EXPECT_EQ(lastLine, 2);
     EXPECT_TRUE(reallyLoaded);
     EXPECT_EQ(uBlock.URLDatas().Count(), 3);
+}
+
+// The window that the line has brought goes with it at once, not at the next look.
+TEST_F(ConnectionWatcher, ALineThatFallsInsideTheMainWindowsLoadTakesItAwayInTheSameTick) {
+    startByDialUp(1);
+    tick();
+    connect();
+    bool fallen = false;
+    driver::atPump(1, [&fallen] {
+        disconnect();
+        driver::advance(4000);
+        fallen = isOnline == 0;
+        EXPECT_TRUE(Form3.loaded());
+    });
+    tick();
+    EXPECT_TRUE(fallen) << "no tick came inside the load";
+    EXPECT_FALSE(Form3.loaded());
+    EXPECT_EQ(uBlock.URLDatas().Count(), 0);
+    EXPECT_EQ(lastLine, 1);
+    EXPECT_EQ(letter(), 'a');
 }
 
 // A library that is missing --------------------------------------------------------------

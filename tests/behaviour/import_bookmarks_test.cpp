@@ -5,12 +5,14 @@
 #include "config/pienest.h"
 #include "tests/behaviour/companion_fixture.h"
 #include "tests/unit/runtime/failure_of.h"
+#include "views/refresh.h"
 
 namespace magpie {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 class ImportBookmarks : public CompanionFixture {
 public:
@@ -104,6 +106,27 @@ TEST_F(ImportBookmarks, IntoAnEmptyFileNothingHappensUntilTheEventsComeAndTheLis
     EXPECT_EQ(Form3.Combo1[1].List(1), "Deep - Deeper");
 }
 
+TEST_F(ImportBookmarks, OfAllTickedGroupsTheListShowsWhatCameAsWell) {
+    open();
+    clickTab(1);
+    Form3.advMode = 0;
+    RefreshURLPage();
+    ASSERT_THAT(titlesInView(), SizeIs(3));
+    during("ImportFavorites", bringSome);
+    bool refreshing = false;
+    driver::atPump(1, [&refreshing] {
+        refreshing = true;
+        EXPECT_EQ(uBlock.URLDatas().Count(), 6);
+        EXPECT_EQ(Form3.mb, nullptr);
+        EXPECT_EQ(modalOpen, 0);
+    });
+    chooseFromMenu("IE Favorites");
+    EXPECT_TRUE(refreshing);
+    EXPECT_THAT(titlesInView(), ElementsAre("Front page", "Tools", "Plan", "One", "Two", "Three"));
+    EXPECT_EQ(Form3.ListView1[3].Count(), 4);
+    EXPECT_EQ(Form3.ListView1[3].Row(4).Text(), "Deep - Deeper");
+}
+
 TEST_F(ImportBookmarks, TheLibraryIsToldTheLastGroupsNumber) {
     open();
     during("ImportFavorites", [this](Library& mb) {
@@ -169,6 +192,57 @@ TEST_F(ImportBookmarks, AnImportThatFailsKeepsWhatCameAndGivesTheInterfaceBack) 
     EXPECT_EQ(modalOpen, 0);
     EXPECT_EQ(Form3.mb, nullptr);
     EXPECT_EQ(driver::objects(), 0);
+}
+
+// The line is watched under a bookmark file, and not under Favorites.
+TEST_F(ImportBookmarks, TheLineThatFallsMeanwhileFlushesUnderABookmarkFileAlone) {
+    open();
+    driver::advance(4000);
+    ASSERT_NE(isOnline, 0);
+    lineCheck = 0;
+    during("ImportFavorites", [](Library&) {
+        driver::advance(8000);
+        EXPECT_NE(isOnline, 0);
+        EXPECT_TRUE(Form3.loaded());
+    });
+    chooseFromMenu("IE Favorites");
+    during("ImportNetscape", [](Library& mb) {
+        driver::advance(8000);
+        EXPECT_EQ(isOnline, 0);
+        EXPECT_FALSE(Form3.loaded());
+        bringSome(mb);
+    });
+    chooseFromMenu("Netscape .HTM");
+    EXPECT_THAT(done, ElementsAre("ImportFavorites()", "Host", "ImportNetscape()"));
+    expectResident();
+}
+
+// Neither what still comes nor the refresh at the end brings the window back.
+TEST_F(ImportBookmarks, AFlushUnderAnImportFromTheMenuEndsIt) {
+    open();
+    during("ImportFavorites", [](Library& mb) {
+        newGroup(mb, "Before");
+        chooseFromTray("Flush");
+        bringSome(mb);
+        EXPECT_FALSE(Form3.loaded());
+    });
+    chooseFromMenu("IE Favorites");
+    expectResident();
+    EXPECT_EQ(driver::objects(), 0);
+    clickPad();
+    EXPECT_THAT(groups(), ElementsAre("Reference", "Work"));
+    EXPECT_EQ(uBlock.URLDatas().Count(), 3);
+}
+
+TEST_F(ImportBookmarks, TheProgramsEndUnderAnImportTakesEverythingAlong) {
+    open();
+    during("ImportFavorites", [](Library& mb) {
+        chooseFromTray("Unload");
+        bringSome(mb);
+    });
+    chooseFromMenu("IE Favorites");
+    EXPECT_EQ(driver::objects(), 0);
+    expectGone();
 }
 
 TEST_F(ImportBookmarks, AMainWindowThatIsFlushedMeanwhileLetsGoOfTheImport) {

@@ -1,10 +1,13 @@
 // The Preferences dialog, a library's: what it is given, in which order, and what its Apply does.
 #include <gmock/gmock.h>
+#include <map>
+#include <ostream>
 
 #include "config/companion.h"
 #include "config/pienest.h"
 #include "core/misc.h"
 #include "mainwindow/full_window.h"
+#include "platform/runtime/word.h"
 #include "tests/behaviour/companion_fixture.h"
 #include "tests/unit/runtime/failure_of.h"
 #include "tray/tray_icon.h"
@@ -41,7 +44,62 @@ public:
     }
 
     static std::int64_t n(std::int64_t value) { return value; }
+
+    // The settings as the program has them, by the library's names.
+    static std::map<std::string, win::VARIANT> settings() {
+        return {{"lineCheck", n(lineCheck.value())},
+                {"onlineAction", n(onlineAction.value())},
+                {"noTrayIcon", noTrayIcon},
+                {"onlineOnly", onlineOnly},
+                {"activeIcon", activeIcon},
+                {"shortcutMode", n(shortcutMode.value())},
+                {"fullWindow", Form3.mnuFullwindow.Checked},
+                {"browserType", n(browserType.value())},
+                {"useKeystrokes", useKeystrokes},
+                {"autoLoadURLs", autoLoadURLs},
+                {"autoSaveURLs", autoSaveURLs},
+                {"autoLoadSettings", autoLoadSettings},
+                {"autoSaveSettings", autoSaveSettings},
+                {"Placement", n(Form3.tbStrip.Placement())},
+                {"iconOnTop", iconOnTop},
+                {"mainOnTop", mainOnTop}};
+    }
 };
+
+// A setting, a value that it does not have at first, and how the program comes to it.
+struct OtherValue {
+    const char* setting;
+    win::VARIANT value;
+    void (*take)();
+};
+
+void PrintTo(const OtherValue& other, std::ostream* out) {
+    *out << other.setting;
+}
+
+const OtherValue otherValues[] = {
+    {"lineCheck", std::int64_t{3}, [] { lineCheck = 3; }},
+    {"onlineAction", std::int64_t{1}, [] { onlineAction = 1; }},
+    {"noTrayIcon", true, [] { noTrayIcon = true; }},
+    {"onlineOnly", true, [] { onlineOnly = true; }},
+    {"activeIcon", false, [] { activeIcon = false; }},
+    {"shortcutMode", std::int64_t{2}, [] { shortcutMode = 2; }},
+    {"fullWindow", true, toggleFullWindow},
+    {"browserType", std::int64_t{1}, [] { browserType = 1; }},
+    {"useKeystrokes", true, [] { useKeystrokes = true; }},
+    {"autoLoadURLs", false, [] { autoLoadURLs = false; }},
+    {"autoSaveURLs", false, [] { autoSaveURLs = false; }},
+    {"autoLoadSettings", false, [] { autoLoadSettings = false; }},
+    {"autoSaveSettings", false, [] { autoSaveSettings = false; }},
+    {"Placement", std::int64_t{tabsBottom}, [] { Form3.tbStrip.Placement(tabsBottom); }},
+    {"iconOnTop", false, [] { iconOnTop = false; }},
+    {"mainOnTop", true, [] { mainOnTop = true; }},
+};
+
+class EverySetting : public Preferences, public testing::WithParamInterface<OtherValue> {};
+
+INSTANTIATE_TEST_SUITE_P(Preferences, EverySetting, testing::ValuesIn(otherValues),
+                         [](const auto& each) { return std::string(each.param.setting); });
 
 // Going in ---------------------------------------------------------------------------------
 
@@ -56,41 +114,26 @@ TEST_F(Preferences, ItGetsItsHostAndTheSettingsInTheirOrderAndIsShown) {
     EXPECT_THAT(arguments, IsEmpty());
 }
 
-TEST_F(Preferences, ItGetsTheSettingsAsTheyAre) {
+TEST_F(Preferences, ItGetsTheProgramsFolder) {
     open();
-    lineCheck = 3;
-    onlineAction = 1;
-    noTrayIcon = true;
-    shortcutMode = 2;
-    browserType = 1;
-    useKeystrokes = true;
-    autoLoadURLs = false;
-    autoSaveSettings = false;
-    mainOnTop = true;
-    Form3.tbStrip.Placement(tabsBottom);
-    toggleFullWindow();
-    during("Show", [](Library& gcfg) {
-        auto& given = gcfg.properties;
-        EXPECT_EQ(given["lineCheck"], win::VARIANT(n(3)));
-        EXPECT_EQ(given["onlineAction"], win::VARIANT(n(1)));
-        EXPECT_EQ(given["noTrayIcon"], win::VARIANT(true));
-        EXPECT_EQ(given["onlineOnly"], win::VARIANT(false));
-        EXPECT_EQ(given["activeIcon"], win::VARIANT(true));
-        EXPECT_EQ(given["shortcutMode"], win::VARIANT(n(2)));
-        EXPECT_EQ(given["fullWindow"], win::VARIANT(true));
-        EXPECT_EQ(given["browserType"], win::VARIANT(n(1)));
-        EXPECT_EQ(given["useKeystrokes"], win::VARIANT(true));
-        EXPECT_EQ(given["autoLoadURLs"], win::VARIANT(false));
-        EXPECT_EQ(given["autoSaveURLs"], win::VARIANT(true));
-        EXPECT_EQ(given["autoLoadSettings"], win::VARIANT(true));
-        EXPECT_EQ(given["autoSaveSettings"], win::VARIANT(false));
-        EXPECT_EQ(given["Placement"], win::VARIANT(n(tabsBottom)));
-        EXPECT_EQ(given["iconOnTop"], win::VARIANT(true));
-        EXPECT_EQ(given["mainOnTop"], win::VARIANT(true));
-        EXPECT_EQ(given["appPath"], win::VARIANT(std::string("C:\\Magpie")));
+    win::VARIANT folder;
+    during("Show", [&](Library& gcfg) { folder = gcfg.properties["appPath"]; });
+    choosePreferences();
+    EXPECT_EQ(folder, win::VARIANT(std::string("C:\\Magpie")));
+}
+
+TEST_P(EverySetting, IsHandedOverAsItIsAndNoOtherInItsPlace) {
+    open();
+    auto wanted = settings();
+    ASSERT_NE(wanted[GetParam().setting], GetParam().value);
+    wanted[GetParam().setting] = GetParam().value;
+    GetParam().take();
+    std::map<std::string, win::VARIANT> given;
+    during("Show", [&](Library& gcfg) {
+        for (const auto& [name, value] : wanted) given[name] = gcfg.properties[name];
     });
     showPreferences();
-    EXPECT_THAT(done, testing::Contains("Show()"));
+    EXPECT_EQ(given, wanted);
 }
 
 TEST_F(Preferences, TheInterfaceIsHeldAndTheMainWindowLoweredWhileItIsUp) {
@@ -168,9 +211,9 @@ TEST_F(Preferences, TheLibraryGetsToKnowTheApplication) {
         EXPECT_EQ(tells("Title"), win::VARIANT(std::string("Magpie")));
         EXPECT_EQ(tells("Path"), win::VARIANT(std::string("C:\\Magpie")));
         EXPECT_EQ(tells("HelpFile"), win::VARIANT(std::string("C:\\Magpie\\PNSHelp.chm")));
-        EXPECT_EQ(tells("Major"), win::VARIANT(n(1)));
-        EXPECT_EQ(tells("Minor"), win::VARIANT(n(0)));
-        EXPECT_EQ(tells("Revision"), win::VARIANT(n(0)));
+        EXPECT_EQ(tells("Major"), win::VARIANT(n(11)));
+        EXPECT_EQ(tells("Minor"), win::VARIANT(n(12)));
+        EXPECT_EQ(tells("Revision"), win::VARIANT(n(13)));
     });
     choosePreferences();
     EXPECT_TRUE(asked);
@@ -196,7 +239,27 @@ TEST_F(Preferences, CancelWithoutAnApplyChangesNothing) {
     EXPECT_EQ(record("ID"), id);
 }
 
-TEST_F(Preferences, ApplyTakesEverySettingOver) {
+TEST_P(EverySetting, IsTakenOverAtApplyAndLeavesTheOthers) {
+    open();
+    const std::string setting = GetParam().setting;
+    auto wanted = settings();
+    // The full window is the main window's own affair.
+    if (setting != "fullWindow") wanted[setting] = GetParam().value;
+    apply(setting, GetParam().value);
+    EXPECT_EQ(settings(), wanted);
+}
+
+TEST_F(Preferences, ApplyAsksForTheSettingsInTheirOrder) {
+    open();
+    during("Show", [](Library& gcfg) { gcfg.raise(pienest::applyCurrent); });
+    choosePreferences();
+    EXPECT_THAT(read, ElementsAre("Placement", "autoLoadSettings", "autoSaveSettings",
+                                  "autoLoadURLs", "autoSaveURLs", "useKeystrokes", "browserType",
+                                  "iconOnTop", "onlineOnly", "activeIcon", "lineCheck",
+                                  "onlineAction", "mainOnTop", "noTrayIcon", "shortcutMode"));
+}
+
+TEST_F(Preferences, ApplyTakesAllSettingsOverAtOnce) {
     open();
     during("Show", [](Library& gcfg) {
         gcfg.properties["lineCheck"] = n(1);
@@ -320,6 +383,29 @@ TEST_F(Preferences, APadThatBecomesOneForTheLineOnlyIsNotTurnedOffBesides) {
     EXPECT_TRUE(Form1.Visible());
 }
 
+// In two steps, as the library raises them: each way, whatever the line.
+TEST_F(Preferences, APadForTheLineOnlyGoesOffAndOnInTwoSteps) {
+    open();
+    onlineOnly = true;
+    for (const bool online : {true, false}) {
+        SCOPED_TRACE(online);
+        isOnline = online ? wordTrue : wordFalse;
+        for (const bool wanted : {false, true}) {
+            during("Show", [wanted](Library& gcfg) {
+                gcfg.properties["activeIcon"] = wanted;
+                for (const bool forTheLine : {false, true}) {
+                    gcfg.properties["onlineOnly"] = forTheLine;
+                    gcfg.raise(pienest::applyCurrent);
+                }
+            });
+            choosePreferences();
+            EXPECT_TRUE(onlineOnly);
+            EXPECT_EQ(activeIcon, wanted);
+            EXPECT_EQ(Form1.Visible(), wanted && online);
+        }
+    }
+}
+
 TEST_F(Preferences, TheTrayIconGoesAndComesBack) {
     open();
     apply("noTrayIcon", true);
@@ -403,6 +489,19 @@ TEST_F(Preferences, ADialogThatFailsGivesTheInterfaceBack) {
     EXPECT_TRUE(onTop(Form3));
     EXPECT_EQ(Form3.gcfg, nullptr);
     EXPECT_EQ(driver::objects(), 0);
+}
+
+TEST_F(Preferences, TheProgramsEndUnderItTakesEverythingAlong) {
+    open();
+    during("Show", [](Library& gcfg) {
+        chooseFromTray("Unload");
+        gcfg.properties["lineCheck"] = n(0);
+        gcfg.raise(pienest::applyCurrent);
+    });
+    choosePreferences();
+    EXPECT_EQ(lineCheck, 2);
+    EXPECT_EQ(driver::objects(), 0);
+    expectGone();
 }
 
 TEST_F(Preferences, AFlushUnderItTakesTheMainWindowAndNothingElse) {

@@ -29,14 +29,35 @@ void layOut(win::memory::LibraryObject& object) {
     };
     object.methods["Ask"] = ask;
     object.methods["Fail"] = [](Arguments, VARIANT*) { return denied; };
+    object.methods["Odd"] = [](Arguments, VARIANT*) { return 0; };
+}
+
+std::string libraryAt(const char* path) {
+    win::memory::driver::putLibrary(path, objectClass, layOut);
+    return path;
 }
 
 }  // namespace
 
 std::string objectLibrary() {
-    const char* path = "C:\\Tests\\object_double.dll";
-    win::memory::driver::putLibrary(path, objectClass, layOut);
-    return path;
+    return libraryAt("C:\\Tests\\object_double.dll");
+}
+
+std::string objectLibraryOnNoDrive() {
+    return libraryAt("\\\\server\\share\\object_double.dll");
+}
+
+// What makes no objects is not there for whoever wants one.
+std::string libraryWithoutObjects() {
+    return "C:\\Tests\\line_double.dll";
+}
+
+std::string brokenLibrary() {
+    return "C:\\Tests\\broken.dll";
+}
+
+bool isLetGo(const std::string&) {
+    return true;
 }
 
 }  // namespace hand

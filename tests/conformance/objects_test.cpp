@@ -90,12 +90,30 @@ TEST(ObjectLibrary, ThatIsNotThereMakesNothing) {
     EXPECT_EQ(object, nullptr);
 }
 
-// It stands beside the program, and that does not count.
-TEST(ObjectLibrary, IsNotLookedForWithoutItsPath) {
+// It stands beside the program, and that does not count; nor does a folder that depends on where
+// the program is.
+TEST(ObjectLibrary, IsNotLookedForWithoutItsFullPath) {
     hand::objectLibrary();
     IDispatch* object = nullptr;
-    EXPECT_EQ(CoCreateInstanceFrom("object_double.dll", hand::objectClass, &object),
-              moduleNotFound);
+    for (const char* path : {"object_double.dll", "\\object_double.dll", "C:object_double.dll",
+                             ".\\object_double.dll", ""})
+        EXPECT_EQ(CoCreateInstanceFrom(path, hand::objectClass, &object), moduleNotFound) << path;
+}
+
+TEST(ObjectLibrary, NeedNotBeOnADrive) {
+    IDispatch* object = nullptr;
+    const std::string path = hand::objectLibraryOnNoDrive();
+    ASSERT_EQ(CoCreateInstanceFrom(path.c_str(), hand::objectClass, &object), 0) << path;
+    IDispatch_Release(object);
+}
+
+TEST(ObjectLibrary, ThatIsOfNoUseMakesNothingAndIsLetGo) {
+    for (const std::string& path : {hand::libraryWithoutObjects(), hand::brokenLibrary()}) {
+        auto* object = reinterpret_cast<IDispatch*>(std::uintptr_t{1});
+        EXPECT_LT(CoCreateInstanceFrom(path.c_str(), hand::objectClass, &object), 0) << path;
+        EXPECT_EQ(object, nullptr);
+        EXPECT_TRUE(hand::isLetGo(path)) << path;
+    }
 }
 
 TEST(ObjectLibrary, MakesNoObjectsOfAClassThatItDoesNotKnow) {
@@ -131,6 +149,10 @@ TEST_F(Objects, AMemberThatIsNotThereHasNoName) {
     VARIANT value;
     EXPECT_EQ(IDispatch_Invoke(object, "None", DISPATCH_PROPERTYGET, {}, &value),
               DISP_E_UNKNOWNNAME);
+}
+
+TEST_F(Objects, AnAnswerOfAnyKindCanBeDropped) {
+    EXPECT_EQ(call("Odd"), 0);
 }
 
 TEST_F(Objects, AFailureOfAMethodIsTold) {

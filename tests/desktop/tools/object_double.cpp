@@ -3,6 +3,7 @@
 //   Raise TEXT                   raises event 1 with the text, and then event 2 without one
 //   Ask HOST MEMBER KIND [TEXT]  calls the host's member by its name and hands its answer back
 //   Fail                         fails as one that is denied
+//   Odd                          answers a value that is none of a host's kinds
 #include <array>
 #include <map>
 #include <string>
@@ -19,7 +20,7 @@ namespace {
 constexpr CLSID classId{0x5B6F41A0, 0x90C3, 0x4C1E, {0x8D, 0x21, 0x3A, 0x77, 0x0E, 0x55, 0x10, 1}};
 constexpr IID eventsId{0x5B6F41A0, 0x90C3, 0x4C1E, {0x8D, 0x21, 0x3A, 0x77, 0x0E, 0x55, 0x10, 2}};
 
-enum Member : DISPID { value = 1, raise, ask, fail };
+enum Member : DISPID { value = 1, raise, ask, fail, odd };
 
 class Object final : public IDispatch, public IConnectionPointContainer, public IConnectionPoint {
 public:
@@ -56,7 +57,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID,
                                             DISPID* ids) noexcept override {
         static const std::map<std::wstring, DISPID> known{
-            {L"Value", value}, {L"Raise", raise}, {L"Ask", ask}, {L"Fail", fail}};
+            {L"Value", value}, {L"Raise", raise}, {L"Ask", ask}, {L"Fail", fail}, {L"Odd", odd}};
         const auto found = known.find(names[0]);
         if (found == known.end()) return DISP_E_UNKNOWNNAME;
         ids[0] = found->second;
@@ -71,6 +72,9 @@ public:
             case raise: return tellSinks(handed->rgvarg[0]);
             case ask: return askHost(*handed, result);
             case fail: return E_ACCESSDENIED;
+            case odd:
+                if (result != nullptr) result->vt = VT_ERROR;
+                return S_OK;
             default: return DISP_E_MEMBERNOTFOUND;
         }
     }

@@ -7,6 +7,7 @@
 //   window_reader panel    the side panel's controls on show: groups with their ticks,
 //                          buttons, check boxes, choices, and fields in quotes
 //   window_reader dialog   the same of the dialog that is up
+//   window_reader box T    the text of the message box with title T
 //   window_reader selected the titles of the selected rows
 //   window_reader top      the title of the first row in sight
 //   window_reader place T  place and size on the screen of the control on show with text T,
@@ -233,7 +234,7 @@ void printDialog(HWND dialog) {
 
 // The dialog that is up, or null.
 HWND dialogUp() {
-    for (const char* name : {"Find", "Form2", "Rated"}) {
+    for (const char* name : {"Find", "Form2", "Rated", "MagpiePreferences"}) {
         HWND dialog = FindWindowA(name, nullptr);
         if (dialog && IsWindowVisible(dialog)) return dialog;
     }
@@ -276,6 +277,17 @@ void printTip() {
         0);
 }
 
+// Of whatever program.
+void printBox(const char* title) {
+    HWND box = FindWindowA("#32770", title);
+    if (!box) return;
+    for (HWND text : children(box, WC_STATICA)) {
+        char line[1024] = "";
+        ask(text, WM_GETTEXT, sizeof line, line);
+        if (*line) std::puts(line);
+    }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -283,6 +295,10 @@ int main(int count, char** arguments) {
     HWND form = FindWindowA("Form3", nullptr);
     if (what == "tip") {
         printTip();
+        return 0;
+    }
+    if (what == "box" && count == 3) {
+        printBox(arguments[2]);
         return 0;
     }
     if (!form) return 1;

@@ -88,6 +88,25 @@ TEST_F(ModalForm, AFormThatIsShownMeanwhileComesUpBehindIt) {
     });
 }
 
+// As a library's dialog over a form of the program, which knows nothing of it.
+TEST_F(ModalForm, AFormThatAnotherModulesDialogHoldsComesUpBehindThat) {
+    for (const win::DWORD level : {win::DWORD{0}, win::WS_EX_TOPMOST}) {
+        win::HWND foreign =
+            win::CreateWindowExA(level, "STATIC", "", win::WS_POPUP | win::WS_VISIBLE, 0, 0, 90, 90,
+                                 desk.hWnd(), nullptr, win::GetOwnModule(), nullptr);
+        win::EnableWindow(desk.hWnd(), false);
+        desk.Hide();
+        desk.Show();
+        EXPECT_EQ(win::GetActiveWindow(), foreign);
+        EXPECT_EQ(win::GetWindowLongPtrA(foreign, win::GWL_EXSTYLE) & win::WS_EX_TOPMOST, level);
+        win::DestroyWindow(foreign);
+        win::EnableWindow(desk.hWnd(), true);
+        desk.Hide();
+        desk.Show();
+        EXPECT_EQ(win::GetActiveWindow(), desk.hWnd());
+    }
+}
+
 TEST_F(ModalForm, AFormThatLoadsMeanwhileIsHeldAsWell) {
     other.unload();
     under(dialog, [] {

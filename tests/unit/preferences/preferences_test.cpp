@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/api/comctl32.h"
 #include "platform/api/user32.h"
 #include "platform/controls/control_failure.h"
 #include "tests/unit/controls/controls_test.h"
@@ -164,12 +165,54 @@ TEST_F(PreferencesTest, ItGoesWithItsOwner) {
 // What it hands over -------------------------------------------------------------------
 
 TEST_F(PreferencesTest, OkHandsOverWhatWasChanged) {
+    settings.activeIcon = true;
+    PreferenceSettings wanted = everythingChanged();
+    wanted.activeIcon = true;
     EXPECT_EQ(edit([] {
                   changeEverything();
+                  turnTo(linePage);
+                  click(Preferences.activeIcon);
                   click(Preferences.okButton);
               }),
-              everythingChanged());
-    EXPECT_THAT(applied, ElementsAre(everythingChanged()));
+              wanted);
+    EXPECT_THAT(applied, ElementsAre(wanted));
+}
+
+// A host takes no news of a pad that shows with the line only.
+TEST_F(PreferencesTest, APadForTheLineOnlyIsFirstSwitchedAsOneThatAlwaysShows) {
+    for (const bool before : {false, true}) {
+        SCOPED_TRACE(before);
+        applied.clear();
+        settings = {};
+        settings.onlineOnly = before;
+        const PreferenceSettings after = edit([before] {
+            turnTo(linePage);
+            click(Preferences.activeIcon);
+            if (!before) click(Preferences.onlineOnly);
+            click(Preferences.applyButton);
+            EXPECT_FALSE(Preferences.applyButton.Enabled());
+            click(Preferences.okButton);
+        });
+        PreferenceSettings wanted;
+        wanted.activeIcon = true;
+        const PreferenceSettings first = wanted;
+        wanted.onlineOnly = true;
+        EXPECT_THAT(applied, ElementsAre(first, wanted));
+        EXPECT_EQ(after, wanted);
+    }
+}
+
+TEST_F(PreferencesTest, APadThatIsNoMoreForTheLineOnlyIsSwitchedInOneStep) {
+    settings.onlineOnly = true;
+    edit([] {
+        turnTo(linePage);
+        click(Preferences.activeIcon);
+        click(Preferences.onlineOnly);
+        click(Preferences.okButton);
+    });
+    PreferenceSettings wanted;
+    wanted.activeIcon = true;
+    EXPECT_THAT(applied, ElementsAre(wanted));
 }
 
 TEST_F(PreferencesTest, OkWithoutAChangeHandsOverNothing) {
@@ -276,6 +319,20 @@ TEST_F(PreferencesTest, AfterApplyItIsInFrontOfWhatTheHostHasShown) {
     });
 }
 
+TEST_F(PreferencesTest, AHostThatTakesItsOwnerAwayBetweenTwoStepsTakesItAlong) {
+    host.apply = [this](const PreferenceSettings& wanted) {
+        applied.push_back(wanted);
+        owner.unload();
+    };
+    settings.onlineOnly = true;
+    edit([] {
+        turnTo(linePage);
+        click(Preferences.activeIcon);
+        click(Preferences.applyButton);
+    });
+    EXPECT_EQ(applied.size(), 2U);
+}
+
 TEST_F(PreferencesTest, AHostThatTakesItsOwnerAwayAtApplyTakesItAlong) {
     host.apply = [](const PreferenceSettings&) { owner.unload(); };
     edit([] {
@@ -283,6 +340,21 @@ TEST_F(PreferencesTest, AHostThatTakesItsOwnerAwayAtApplyTakesItAlong) {
         click(Preferences.activeIcon);
         click(Preferences.applyButton);
     });
+}
+
+// Without windows ------------------------------------------------------------------------
+
+TEST_F(PreferencesTest, WithoutAWindowForItOrForAControlThereIsNoneAndTheNextOneComesUpWhole) {
+    for (const int call : {1, 2, 30}) {
+        SCOPED_TRACE(call);
+        driver::failCall("CreateWindowExA", call, 8);
+        EXPECT_EQ(failureOf([this] { editPreferences(settings, host, owner.hWnd()); }),
+                  failure::outOfMemory);
+        EXPECT_FALSE(Preferences.loaded());
+        EXPECT_TRUE(win::IsWindowEnabled(owner.hWnd()));
+        edit([] { EXPECT_TRUE(win::IsWindow(Preferences.helpButton.hWnd())); });
+    }
+    EXPECT_THAT(applied, IsEmpty());
 }
 
 // Keys ---------------------------------------------------------------------------------
@@ -347,9 +419,10 @@ TEST_F(PreferencesTest, EveryAccessKeyIsTheOnlyOne) {
                  &Preferences.browserLabel, &Preferences.useKeystrokes, &Preferences.lineLabel,
                  &Preferences.onlineAction, &Preferences.trayIcon, &Preferences.activeIcon,
                  &Preferences.onlineOnly, &Preferences.iconOnTop, &Preferences.placementLabel,
-                 &Preferences.mainOnTop, &Preferences.autoLoadURLs, &Preferences.autoSaveURLs,
-                 &Preferences.autoLoadSettings, &Preferences.autoSaveSettings,
-                 &Preferences.shortcutLabel, &Preferences.applyButton, &Preferences.helpButton}) {
+                 &Preferences.mainOnTop, &Preferences.fullWindow, &Preferences.autoLoadURLs,
+                 &Preferences.autoSaveURLs, &Preferences.autoLoadSettings,
+                 &Preferences.autoSaveSettings, &Preferences.shortcutLabel,
+                 &Preferences.applyButton, &Preferences.helpButton}) {
             const std::string caption = control->Caption();
             const std::size_t mark = caption.find('&');
             ASSERT_NE(mark, std::string::npos) << caption;
@@ -375,10 +448,25 @@ TEST_F(PreferencesTest, EveryControlHasATip) {
                  &Preferences.browserType, &Preferences.useKeystrokes, &Preferences.lineCheck,
                  &Preferences.onlineAction, &Preferences.trayIcon, &Preferences.activeIcon,
                  &Preferences.onlineOnly, &Preferences.iconOnTop, &Preferences.placement,
-                 &Preferences.mainOnTop, &Preferences.fullWindow, &Preferences.autoLoadURLs,
-                 &Preferences.autoSaveURLs, &Preferences.autoLoadSettings,
-                 &Preferences.autoSaveSettings, &Preferences.shortcutMode})
+                 &Preferences.mainOnTop, &Preferences.autoLoadURLs, &Preferences.autoSaveURLs,
+                 &Preferences.autoLoadSettings, &Preferences.autoSaveSettings,
+                 &Preferences.shortcutMode})
             EXPECT_NE(control->ToolTipText(), "") << control->Caption();
+    });
+}
+
+// The mouse is never over a disabled control, but over what lies below it.
+TEST_F(PreferencesTest, TheTipOfTheDisabledOneBelongsToItsPage) {
+    edit([] {
+        char text[256] = "";
+        win::TTTOOLINFOA tool{};
+        tool.cbSize = sizeof tool;
+        tool.hwnd = Preferences.page[windowPage].hWnd();
+        tool.lpszText = text;
+        win::SendMessageA(driver::findWindow(win::TOOLTIPS_CLASSA, ""), win::TTM_GETTEXTA, 0,
+                          reinterpret_cast<win::LPARAM>(&tool));
+        EXPECT_EQ(std::string(text),
+                  "Shown here only: the Escape key in the main window changes it");
     });
 }
 
