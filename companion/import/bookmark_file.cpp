@@ -17,7 +17,7 @@ class PageTexts {
 public:
     PageTexts(unsigned pageCodePage, unsigned codePage, CodePageCalls calls)
         : utf8_(pageCodePage == 0 || pageCodePage == codePageUtf8),
-          reader_(utf8_ ? codePage : pageCodePage, calls) {}
+          reader_(utf8_ ? oldCodePage(codePage) : pageCodePage, calls) {}
 
     // Each is good until its next call.
     const std::string& title(std::string_view html) {
@@ -28,13 +28,25 @@ public:
 
     const std::string& address(std::string_view value) {
         address_.clear();
-        appendWithoutEntities(address_, decoded(value), HtmlPlace::attribute);
+        appendWithoutEntities(address_, decoded(value), HtmlPlace::address);
         return address_;
     }
 
 private:
+    // Where the program has UTF-8 itself, what is none is older than that.
+    static unsigned oldCodePage(unsigned codePage) {
+        return codePage == codePageUtf8 ? codePageWestern : codePage;
+    }
+
+    // In a page of UTF-8 a text of another code page has no letter that could be read; one that
+    // has is UTF-8 of which something broke off.
+    bool isReadAsUtf8(std::string_view bytes) const {
+        const Utf8Count count = countUtf8(bytes);
+        return count.broken == 0 || count.letters != 0;
+    }
+
     std::string_view decoded(std::string_view bytes) {
-        if (isAscii(bytes) || (utf8_ && isUtf8(bytes))) return bytes;
+        if (isAscii(bytes) || (utf8_ && isReadAsUtf8(bytes))) return bytes;
         decoded_.clear();
         reader_.append(decoded_, bytes);
         return decoded_;
@@ -47,13 +59,21 @@ private:
     std::string address_;
 };
 
-bool allUtf8(const BookmarkPage& page) {
-    const auto utf8Link = [](const BookmarkLink& link) {
-        return isUtf8(link.title) && isUtf8(link.address);
+// A page that says nothing of its charset: by most of its letters, as one that was cut, or in which
+// a title was, has some that are broken.
+bool isMostlyUtf8(const BookmarkPage& page) {
+    Utf8Count sum;
+    const auto add = [&sum](std::string_view text) {
+        const Utf8Count count = countUtf8(text);
+        sum.letters += count.letters;
+        sum.broken += count.broken;
     };
-    const auto utf8Folder = [](const BookmarkFolder& folder) { return isUtf8(folder.title); };
-    return std::ranges::all_of(page.links, utf8Link) &&
-           std::ranges::all_of(page.folders, utf8Folder);
+    for (const BookmarkLink& link : page.links) {
+        add(link.title);
+        add(link.address);
+    }
+    for (const BookmarkFolder& folder : page.folders) add(folder.title);
+    return sum.letters >= sum.broken;
 }
 
 // The places of the links, folder by folder.
@@ -137,7 +157,7 @@ void importBookmarkBytes(std::string_view bytes, unsigned codePage, CodePageCall
     const BookmarkPage page = readBookmarkPage(text);
     unsigned read = page.codePage;
     if (start.text != FileText::bytes) read = codePageUtf8;
-    if (read == 0) read = allUtf8(page) ? codePageUtf8 : codePage;
+    if (read == 0) read = isMostlyUtf8(page) ? codePageUtf8 : codePage;
     handOverPage(page, PageTexts(read, codePage, calls), handOver);
 }
 

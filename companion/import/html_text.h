@@ -7,11 +7,12 @@
 
 namespace magpie {
 
-// Whether an ampersand may begin something else, as "?a=1&copy=2" in an address does.
-enum class HtmlPlace { text, attribute };
+// Where an ampersand may begin something else, as in the address "?a=1&copy=2", an entity needs its
+// semicolon, unless it is a number or one of the few that escape what must be escaped.
+enum class HtmlPlace { text, address };
 
-// Replaces entities: named, decimal, hexadecimal, with or without their semicolon. What is none
-// stays as it is.
+// Replaces entities: named, decimal, hexadecimal; in text also most of those without a semicolon.
+// What is none stays as it is.
 void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace place);
 
 // The text of a heading or of a link: tags and comments in it are left out, runs of blanks and

@@ -148,8 +148,8 @@ def letters():
     lines += rows(alike, lambda row: '{0x%04X, u"%s"},' % (row[0], u16(row[1])), 3)
     lines += ["}};", "", "}  // namespace magpie"]
     write("letter_tables.cpp", lines)
-    header("letter_tables.h", """// Letter tables: of which letter and mark a letter is made, and what a character is written as where
-// it is not to be had.
+    header("letter_tables.h", """// Letter tables: of which letter and mark a letter is made, and what a character is written as
+// where it is not to be had.
 #pragma once
 
 #include <array>
@@ -175,20 +175,33 @@ extern const std::array<AlikeText, %d> alikeTexts;            // in order of cha
 """ % (len(composed), len(alike)))
 
 
+def stands_alone(name, loose):
+    """Whether a name without its semicolon is one where no letter follows. HTML 4 has them all so;
+    but of its names for signs of mathematics many are words, before which an "&" is an "and"."""
+    code = html.entities.name2codepoint.get(name)
+    return name in loose or name == "trade" or (code is not None and code < 0x2100)
+
+
 def entities():
-    # Those that stand in HTML 4, and the older ones that hold without a semicolon.
+    # The older ones hold without a semicolon.
     loose = {name for name in html.entities.html5 if not name.endswith(";")}
-    named = {name: chr(code) for name, code in html.entities.name2codepoint.items()}
-    for name in loose | {"apos"}:
-        named[name] = html.entities.html5[name + ";"]
+    named = {name[:-1]: text for name, text in html.entities.html5.items() if name.endswith(";")}
     table = sorted(named.items())
+    assert max(len(text) for text in named.values()) == 2
+    assert all(ord(text[1]) < 0x10000 for text in named.values() if len(text) == 2)
     lines = ['#include "companion/import/entity_table.h"', "", "namespace magpie {", "",
              "const std::array<NamedEntity, %d> namedEntities{{" % len(table)]
-    lines += rows(table, lambda row: '{"%s", 0x%04X, %s},' %
-                  (row[0], ord(row[1]), "true" if row[0] in loose else "false"), 3)
+
+    def row(item):
+        name, text = item
+        end = "loose" if name in loose else "alone" if stands_alone(name, loose) else "closed"
+        return '{"%s", 0x%04X, 0x%04X, EntityEnd::%s},' % (
+            name, ord(text[0]), ord(text[1]) if len(text) == 2 else 0, end)
+
+    lines += rows(table, row, 2)
     lines += ["}};", "", "}  // namespace magpie"]
     write("entity_table.cpp", lines)
-    header("entity_table.h", """// Entity table: the named characters of HTML 4.
+    header("entity_table.h", """// Entity table: the named characters of HTML.
 #pragma once
 
 #include <array>
@@ -196,10 +209,14 @@ def entities():
 
 namespace magpie {
 
+// What must stand behind a name: its semicolon; or else no letter or digit; or anything.
+enum class EntityEnd { closed, alone, loose };
+
 struct NamedEntity {
     std::string_view name;
-    char16_t character;
-    bool loose;  // holds without its semicolon, also right before other letters
+    char32_t character;
+    char16_t second;  // some names mean two characters; else 0
+    EntityEnd end;
 };
 
 extern const std::array<NamedEntity, %d> namedEntities;  // in order of name

@@ -72,6 +72,52 @@ INSTANTIATE_TEST_SUITE_P(
              umlaut}),
     [](const auto& test) { return std::string(test.param.name); });
 
+// Three links; the last bytes of the page's last title are missing.
+std::string pageCutInALetter(const std::string& meta) {
+    return meta +
+           "<DL><DT><A HREF=\"http://a/\xC3\xA4\">\xC3\xA4</A>"
+           "<DT><A HREF=\"http://b/\xC3\xA4\xE6\x97\">\xC3\xA4\xE6\x97</A><DT><A HREF=c>x\xC3";
+}
+
+TEST(CharsetOfAPage, OneBrokenLetterMakesNoOtherPageOfIt) {
+    for (const std::string& start : {""s, metaOf("utf-8"), "\xEF\xBB\xBF"s}) {
+        EXPECT_THAT(
+            importPage(pageCutInALetter(start)).events,
+            ElementsAre("+Bookmarks", "\xE4|http://a/%C3%A4", "\xE4?|http://b/%C3%A4%E6%97", "x\xC3|c"))
+            << start;
+    }
+}
+
+TEST(CharsetOfAPage, AFileCutAnywhereKeepsItsCharset) {
+    const std::string page = pageOf("", "\xC3\xA4") + "<A HREF=b>\xD0\x96\xE6\x97\xA5</A>";
+    const std::size_t from = page.find("HREF=b>") + 7;
+    for (std::size_t size = from; size <= page.size(); ++size) {
+        EXPECT_EQ(importPage(page.substr(0, size)).events.at(1), umlaut) << size;
+    }
+}
+
+TEST(CharsetOfAPage, ATextOfTheProgramsCodePageInAPageOfUtf8IsReadInThat) {
+    const std::string page = "<A HREF=a>\xC3\xA4\xC3\xB6</A><A HREF=b>\xE4\xF6</A>";
+    EXPECT_THAT(importPage(metaOf("utf-8") + page).events,
+                ElementsAre("+Bookmarks", "\xE4\xF6|a", "\xE4\xF6|b"));
+    EXPECT_THAT(importPage(page + page).events,
+                ElementsAre("+Bookmarks", "\xE4\xF6|a", "\xE4\xF6|b", "\xE4\xF6|a", "\xE4\xF6|b"));
+}
+
+TEST(CharsetOfAPage, WhereTheProgramHasUtf8OldTextsAreTakenForWesternOnes) {
+    const ImportOptions utf8{codePageUtf8, {}};
+    for (const std::string& meta : {""s, metaOf("utf-8")}) {
+        EXPECT_THAT(importPage(pageOf(meta, "\xE4"), utf8).events,
+                    ElementsAre("+Bookmarks", "\xC3\xA4|http://a/%C3%A4"));
+    }
+}
+
+// "Liantong", two letters of Chinese, which are valid UTF-8 by chance.
+TEST(CharsetOfAPage, OneTextThatCouldBeUtf8MakesNoPageOfIt) {
+    const std::string page = "<A HREF=a>\xC1\xAA\xCD\xA8</A><A HREF=b>\xD6\xD0\xCE\xC4</A>";
+    EXPECT_EQ(importPage(page, {1251, {}}).events.at(1), "\xC1\xAA\xCD\xA8|a");
+}
+
 TEST(CharsetOfAPage, TheProgramsCodePageReadsWhatSaysNothing) {
     const ImportOptions cyrillic{1251, {}};
     EXPECT_THAT(importPage(pageOf("", "\xC6"), cyrillic).events,
