@@ -20,9 +20,13 @@ public:
           reader_(utf8_ ? oldCodePage(codePage) : pageCodePage, calls) {}
 
     // Each is good until its next call.
-    const std::string& title(std::string_view html) {
+    const std::string& title(const BookmarkTitle& title) {
         title_.clear();
-        appendReadable(title_, decoded(html));
+        appendReadable(title_, decoded(title.html));
+        if (isBlankText(title_)) {
+            title_.clear();
+            appendReadableValue(title_, decoded(title.value));
+        }
         return title_;
     }
 
@@ -68,11 +72,15 @@ bool isMostlyUtf8(const BookmarkPage& page) {
         sum.letters += count.letters;
         sum.broken += count.broken;
     };
+    const auto addTitle = [&add](const BookmarkTitle& title) {
+        add(title.html);
+        add(title.value);
+    };
     for (const BookmarkLink& link : page.links) {
-        add(link.title);
+        addTitle(link.title);
         add(link.address);
     }
-    for (const BookmarkFolder& folder : page.folders) add(folder.title);
+    for (const BookmarkFolder& folder : page.folders) addTitle(folder.title);
     return sum.letters >= sum.broken;
 }
 
@@ -107,8 +115,7 @@ public:
     const std::string& enter(std::size_t folder) {
         while (!way_.empty() && way_.back().folder != page_.folders[folder].outer) leave();
         way_.push_back({folder, name_.size()});
-        if (!name_.empty()) name_ += betweenFolders;
-        name_ += nameInFolder({}, texts_.title(page_.folders[folder].title));
+        appendFolder(name_, texts_.title(page_.folders[folder].title));
         return name_;
     }
 

@@ -140,6 +140,13 @@ bool breaksLine(const HtmlTag& tag) {
     return tag.is("br") || tag.is("p");
 }
 
+// True where the text up to the next tag is no text of the page.
+bool skipHidden(HtmlScanner& scanner, const HtmlTag& tag) {
+    if (tag.closing) return false;
+    return (tag.is("script") && scanner.skipRawText("script")) ||
+           (tag.is("style") && scanner.skipRawText("style"));
+}
+
 }  // namespace
 
 void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace place) {
@@ -169,12 +176,21 @@ void appendReadable(std::string& result, std::string_view html) {
     bool blank = false;
     HtmlScanner scanner(html);
     std::size_t from = 0;
+    bool shown = true;
     while (const HtmlTag* const tag = scanner.next()) {
-        appendFolded(folded, html.substr(from, tag->begin - from), blank);
+        if (shown) appendFolded(folded, html.substr(from, tag->begin - from), blank);
         blank = blank || breaksLine(*tag);
         from = tag->end;
+        shown = !skipHidden(scanner, *tag);
     }
     appendFolded(folded, html.substr(from), blank);
+    appendWithoutEntities(result, folded, HtmlPlace::text);
+}
+
+void appendReadableValue(std::string& result, std::string_view value) {
+    std::string folded;
+    bool blank = false;
+    appendFolded(folded, value, blank);
     appendWithoutEntities(result, folded, HtmlPlace::text);
 }
 

@@ -19,4 +19,7 @@ void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace
 // line ends become one blank, those at the ends go.
 void appendReadable(std::string& result, std::string_view html);
 
+// The same of a text in an attribute, in which what looks like a tag is none.
+void appendReadableValue(std::string& result, std::string_view value);
+
 }  // namespace magpie

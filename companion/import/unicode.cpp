@@ -68,6 +68,14 @@ Utf8Character readUtf8(std::string_view text, std::size_t at) {
                  : Utf8Character{replacementCharacter, 1, false};
 }
 
+bool isBlank(char32_t character) {
+    return character <= 0x20 || (character >= 0x7F && character <= 0xA0) || character == 0xAD ||
+           character == 0x1680 || (character >= 0x2000 && character <= 0x200F) ||
+           (character >= 0x2028 && character <= 0x202F) ||
+           (character >= 0x205F && character <= 0x206F) || character == 0x3000 ||
+           (character >= 0xFE00 && character <= 0xFE0F) || character == 0xFEFF;
+}
+
 // Appends UTF-16 that comes unit by unit.
 class Utf16Reader {
 public:
@@ -167,6 +175,26 @@ Utf8Count countUtf8(std::string_view text) {
         at += read.length;
     }
     return count;
+}
+
+bool isBlankText(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        if (!isBlank(nextUtf8(text, at))) return false;
+    }
+    return true;
+}
+
+std::string_view firstBytes(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return text;
+    while (most != 0 && isContinuation(byteAt(text, most))) --most;
+    return text.substr(0, most);
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return text;
+    std::size_t at = 0;
+    for (; most != 0 && at < text.size(); --most) at += readUtf8(text, at).length;
+    return text.substr(0, at);
 }
 
 std::string utf8Of(std::u16string_view text) {

@@ -28,6 +28,13 @@ struct Utf8Count {
 };
 [[nodiscard]] Utf8Count countUtf8(std::string_view text);
 
+// Whether nobody sees anything of it.
+[[nodiscard]] bool isBlankText(std::string_view text);
+
+// The text's first bytes, at most so many, without a part of a character at the end.
+[[nodiscard]] std::string_view firstBytes(std::string_view text, std::size_t most);
+[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t most);
+
 [[nodiscard]] std::string utf8Of(std::u16string_view text);
 
 // What the beginning of a file says of its text. `rest` is the text without the mark.
