@@ -84,6 +84,11 @@ bool isMostlyUtf8(const BookmarkPage& page) {
     return sum.letters >= sum.broken;
 }
 
+bool hasJapaneseShift(std::string_view text) {
+    return text.find("\x1B$B") != std::string_view::npos ||
+           text.find("\x1B$@") != std::string_view::npos;
+}
+
 // The places of the links, folder by folder.
 class LinksByFolder {
 public:
@@ -161,9 +166,14 @@ void importBookmarkBytes(std::string_view bytes, unsigned codePage, CodePageCall
         converted = utf8OfUtf16(text, start.text == FileText::utf16BigEndian);
         text = converted;
     }
-    const BookmarkPage page = readBookmarkPage(text);
-    unsigned read = page.codePage;
-    if (start.text != FileText::bytes) read = codePageUtf8;
+    BookmarkPage page = readBookmarkPage(text);
+    unsigned read = start.text == FileText::bytes ? page.codePage : codePageUtf8;
+    if (read == 0 && hasJapaneseShift(text)) read = codePageShiftedJapanese;
+    if (isShifted(read)) {
+        CodePageReader(read, calls).append(converted, text);
+        page = readBookmarkPage(converted);
+        read = codePageUtf8;
+    }
     if (read == 0) read = isMostlyUtf8(page) ? codePageUtf8 : codePage;
     handOverPage(page, PageTexts(read, codePage, calls), handOver);
 }

@@ -49,7 +49,8 @@ struct BookmarkPage {
     unsigned codePage = 0;  // as its META says; 0 where it says none that is known
 };
 
-// The page must outlive the result. `page` is in UTF-8 or in a code page that has ASCII in it.
+// The page must outlive the result. `page` is in UTF-8 or in a code page that has ASCII in it,
+// and is no shifted one other than to be asked for its META.
 [[nodiscard]] BookmarkPage readBookmarkPage(std::string_view page);
 
 // Hands over the links of a file's bytes, folder by folder in the page's order, those of no folder

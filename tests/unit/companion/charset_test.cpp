@@ -54,6 +54,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"Cyrillic", pageOf(metaOf("windows-1251"), "\xC6"), zhe},
         Case{"CyrillicKoi8", pageOf(metaOf("KOI8-R"), "\xF6"), zhe},
         Case{"Macintosh", pageOf(metaOf("x-mac-roman"), "\x8A"), umlaut},
+        Case{"MarkTwice", "\xEF\xBB\xBF\xEF\xBB\xBF" + pageOf("", "\xC3\xA4"), umlaut},
+        Case{"SpacedMeta", pageOf("<meta charset=' windows-1251; '>", "\xC6"), zhe},
         Case{"ShortMeta", pageOf("<meta charset=windows-1251>", "\xC6"), zhe},
         Case{"ShortMetaQuoted", pageOf("<meta charset='windows-1251'>", "\xC6"), zhe},
         Case{"MetaWithBlanks",
@@ -81,9 +83,9 @@ std::string pageCutInALetter(const std::string& meta) {
 
 TEST(CharsetOfAPage, OneBrokenLetterMakesNoOtherPageOfIt) {
     for (const std::string& start : {""s, metaOf("utf-8"), "\xEF\xBB\xBF"s}) {
-        EXPECT_THAT(
-            importPage(pageCutInALetter(start)).events,
-            ElementsAre("+Bookmarks", "\xE4|http://a/%C3%A4", "\xE4?|http://b/%C3%A4%E6%97", "x\xC3|c"))
+        EXPECT_THAT(importPage(pageCutInALetter(start)).events,
+                    ElementsAre("+Bookmarks", "\xE4|http://a/%C3%A4", "\xE4?|http://b/%C3%A4%E6%97",
+                                "x\xC3|c"))
             << start;
     }
 }
@@ -122,6 +124,78 @@ TEST(CharsetOfAPage, TheProgramsCodePageReadsWhatSaysNothing) {
     const ImportOptions cyrillic{1251, {}};
     EXPECT_THAT(importPage(pageOf("", "\xC6"), cyrillic).events,
                 ElementsAre("+Bookmarks", "\xC6|http://a/%D0%96"));
+}
+
+TEST(CharsetOfAPage, NamesAreKnownAsTheyWereWritten) {
+    const struct {
+        const char* name;
+        unsigned codePage;
+    } names[] = {
+        {"iso_8859-7", 28597},
+        {"ISO8859-5", 28595},
+        {"iso-ir-100", 1252},
+        {"latin-9", 28605},
+        {"cp-1251", 1251},
+        {"win-1251", 1251},
+        {" windows-1251 ", 1251},
+        {"utf-8;", 65001},
+        {"KOI8R", 20866},
+        {"cskoi8r", 20866},
+        {"cp850", 850},
+        {"ibm437", 437},
+        {"cp852", 852},
+        {"x-mac-ce", 10029},
+        {"x-mac-greek", 10006},
+        {"x-mac-turkish", 10081},
+        {"x-windows-874", 874},
+        {"csShiftJIS", 932},
+        {"ms932", 932},
+        {"cp936", 936},
+        {"csgb2312", 936},
+        {"chinese", 936},
+        {"ks_c_5601", 949},
+        {"korean", 949},
+        {"x-johab", 1361},
+        {"cn-big5", 950},
+        {"eucjp", 20932},
+        {"x-unicode-2-0-utf-8", 65001},
+        {"iso-2022-jp", 50220},
+        {"hz-gb-2312", 52936},
+        {"utf-7", 65000},
+        {"iso-8859-8-i", 28598},
+        {"iso-8859-11", 874},
+        {"x-none", 0},
+        {"", 0},
+        {"-", 0},
+    };
+    for (const auto& each : names) EXPECT_EQ(codePageNamed(each.name), each.codePage) << each.name;
+}
+
+// A code page of seven bits, in which an escape and three signs behind it are a letter.
+bool shifted(unsigned codePage, std::string_view bytes, std::u16string& text) {
+    if (codePage != 50220) return false;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        const bool shift = bytes[at] == '\x1B' && at + 3 < bytes.size();
+        text += shift ? u'\u03B1' : static_cast<char16_t>(bytes[at]);
+        if (shift) at += 3;
+    }
+    return true;
+}
+
+TEST(CharsetOfAPage, WhereLettersAreMadeOfSignsThePageIsReadAsLettersFirst) {
+    const ImportOptions greek{1253, {shifted, nullptr}};
+    const std::string page = "<A HREF=a>\x1B$B<</A><A HREF=b>\x1B$B\">x</A>";
+    for (const std::string& meta : {""s, metaOf("iso-2022-jp")}) {
+        EXPECT_THAT(importPage(meta + page, greek).events,
+                    ElementsAre("+Bookmarks", "\xE1|a", "\xE1>x|b"))
+            << meta;
+    }
+    EXPECT_THAT(importPage("<A HREF=a>\x1B[B x</A>", greek).events,
+                ElementsAre("+Bookmarks", "[B x|a"));
+}
+
+TEST(CharsetOfAPage, WhereNobodyKnowsThemItsFrameIsStillRead) {
+    EXPECT_EQ(importPage(metaOf("iso-2022-jp") + "<A HREF=a>x</A>").events.at(1), "x|a");
 }
 
 // A code page in which each pair of bytes above 7F is the same letter.
