@@ -17,7 +17,7 @@ constexpr std::size_t mostBytesOfAll = 4096;
 void HandOver::enter(std::string_view groupName, bool root) {
     groupName_ = groupName;
     root_ = root;
-    begun_ = false;
+    begun_ = counted_ = false;
 }
 
 void HandOver::link(std::string_view title, std::string_view address) {
@@ -28,6 +28,8 @@ void HandOver::link(std::string_view title, std::string_view address) {
     if (name.empty()) name = url;
     full_ = !sink_.BungURL(name, url);
     if (full_) return skipWithoutRoom();
+    if (!counted_) ++counts_.groups;
+    counted_ = true;
     ++counts_.links;
 }
 
@@ -40,7 +42,6 @@ bool HandOver::beginGroup() {
     if (full_) return false;
     if (root_) sink_.storeLastRootOwner();
     begun_ = true;
-    ++counts_.groups;
     return true;
 }
 

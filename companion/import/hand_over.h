@@ -41,7 +41,8 @@ private:
     const HostText& texts_;
     std::string_view groupName_;
     bool root_ = true;
-    bool begun_ = false;
+    bool begun_ = false;    // the sink has the group
+    bool counted_ = false;  // and a link of it
     bool full_ = false;
     ImportCounts counts_;
 };

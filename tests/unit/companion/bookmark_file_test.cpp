@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gmock/gmock.h>
+#include <limits>
 #include <string>
 
 #include "tests/unit/companion/bookmark_fixture.h"
@@ -401,11 +402,59 @@ TEST(BookmarkPage, AStoreThatIsFullIsAskedNoMore) {
     EXPECT_EQ(counts.withoutAddress, 1U);
 }
 
+// Takes groups, but no link.
+class FullSink : public RecordingSink {
+public:
+    bool BungURL(const std::string&, const std::string&) override { return false; }
+};
+
+TEST(BookmarkPage, AGroupOfWhichNoLinkFoundRoomIsNotCounted) {
+    MemoryFiles files;
+    files.file("/a", "<A HREF=1>1</A><A HREF=2>2</A>");
+    FullSink sink;
+    const ImportCounts counts = importBookmarkFile(files, "/a", {}, sink);
+    EXPECT_EQ(counts.groups, 0U);
+    EXPECT_EQ(counts.withoutRoom, 2U);
+}
+
 TEST(BookmarkPage, AFileThatCantBeReadIsCounted) {
     MemoryFiles files;
     RecordingSink sink;
     EXPECT_EQ(importBookmarkFile(files, "/none", {}, sink).unreadable, 1U);
     EXPECT_THAT(sink.events, IsEmpty());
+}
+
+// A file that gives as many bytes as are asked for, up to its size.
+class LargeFile : public MemoryFiles {
+public:
+    explicit LargeFile(std::size_t size) : size_(size) {}
+
+    bool read(const std::string&, std::size_t limit, std::string& bytes) override {
+        asked = limit;
+        bytes.assign(std::min(limit, size_), ' ');
+        bytes.replace(0, 14, "<A HREF=a>a</A>", 14);
+        return true;
+    }
+
+    std::size_t asked = 0;
+
+private:
+    std::size_t size_;
+};
+
+TEST(BookmarkPage, AHundredMegabytesAreRead) {
+    LargeFile files(100 * 1024 * 1024);
+    RecordingSink sink;
+    EXPECT_EQ(importBookmarkFile(files, "/page", {}, sink).links, 1U);
+}
+
+TEST(BookmarkPage, AFileThatIsTooLongForAPageIsNotRead) {
+    LargeFile files(std::numeric_limits<std::size_t>::max());
+    RecordingSink sink;
+    const ImportCounts counts = importBookmarkFile(files, "/disk image", {}, sink);
+    EXPECT_LE(files.asked, 1024U * 1024 * 1024);
+    EXPECT_EQ(counts.links, 0U);
+    EXPECT_EQ(counts.unreadable, 1U);
 }
 
 }  // namespace
