@@ -4,6 +4,7 @@
 #include <span>
 
 #include "companion/import/html_text.h"
+#include "companion/import/shifted_japanese.h"
 #include "companion/import/unicode.h"
 
 namespace magpie {
@@ -84,11 +85,6 @@ bool isMostlyUtf8(const BookmarkPage& page) {
     return sum.letters >= sum.broken;
 }
 
-bool hasJapaneseShift(std::string_view text) {
-    return text.find("\x1B$B") != std::string_view::npos ||
-           text.find("\x1B$@") != std::string_view::npos;
-}
-
 // The places of the links, folder by folder.
 class LinksByFolder {
 public:
@@ -141,6 +137,17 @@ private:
     std::string name_;
 };
 
+// Converts a page into a code page that has ASCII in it; answers which.
+unsigned unshift(std::string_view text, unsigned codePage, CodePageCalls calls,
+                 std::string& converted) {
+    if (codePage == codePageShiftedJapanese) {
+        converted = shiftJisOf(text);
+        return codePageJapanese;
+    }
+    CodePageReader(codePage, calls).append(converted, text);
+    return codePageUtf8;
+}
+
 void handOverPage(const BookmarkPage& page, PageTexts texts, HandOver& handOver) {
     const LinksByFolder links(page);
     GroupNames names(page, texts);
@@ -170,9 +177,8 @@ void importBookmarkBytes(std::string_view bytes, unsigned codePage, CodePageCall
     unsigned read = start.text == FileText::bytes ? page.codePage : codePageUtf8;
     if (read == 0 && hasJapaneseShift(text)) read = codePageShiftedJapanese;
     if (isShifted(read)) {
-        CodePageReader(read, calls).append(converted, text);
+        read = unshift(text, read, calls, converted);
         page = readBookmarkPage(converted);
-        read = codePageUtf8;
     }
     if (read == 0) read = isMostlyUtf8(page) ? codePageUtf8 : codePage;
     handOverPage(page, PageTexts(read, codePage, calls), handOver);

@@ -12,6 +12,7 @@
 
 namespace magpie {
 
+inline constexpr unsigned codePageJapanese = 932;
 inline constexpr unsigned codePageWestern = 1252;
 inline constexpr unsigned codePageUtf7 = 65000;
 inline constexpr unsigned codePageUtf8 = 65001;

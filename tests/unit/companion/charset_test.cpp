@@ -171,33 +171,6 @@ TEST(CharsetOfAPage, NamesAreKnownAsTheyWereWritten) {
     for (const auto& each : names) EXPECT_EQ(codePageNamed(each.name), each.codePage) << each.name;
 }
 
-// A code page of seven bits, in which an escape and three signs behind it are a letter.
-bool shifted(unsigned codePage, std::string_view bytes, std::u16string& text) {
-    if (codePage != 50220) return false;
-    for (std::size_t at = 0; at < bytes.size(); ++at) {
-        const bool shift = bytes[at] == '\x1B' && at + 3 < bytes.size();
-        text += shift ? u'\u03B1' : static_cast<char16_t>(bytes[at]);
-        if (shift) at += 3;
-    }
-    return true;
-}
-
-TEST(CharsetOfAPage, WhereLettersAreMadeOfSignsThePageIsReadAsLettersFirst) {
-    const ImportOptions greek{1253, {shifted, nullptr}};
-    const std::string page = "<A HREF=a>\x1B$B<</A><A HREF=b>\x1B$B\">x</A>";
-    for (const std::string& meta : {""s, metaOf("iso-2022-jp")}) {
-        EXPECT_THAT(importPage(meta + page, greek).events,
-                    ElementsAre("+Bookmarks", "\xE1|a", "\xE1>x|b"))
-            << meta;
-    }
-    EXPECT_THAT(importPage("<A HREF=a>\x1B[B x</A>", greek).events,
-                ElementsAre("+Bookmarks", "[B x|a"));
-}
-
-TEST(CharsetOfAPage, WhereNobodyKnowsThemItsFrameIsStillRead) {
-    EXPECT_EQ(importPage(metaOf("iso-2022-jp") + "<A HREF=a>x</A>").events.at(1), "x|a");
-}
-
 // A code page in which each pair of bytes above 7F is the same letter.
 bool oneLetter(unsigned codePage, std::string_view bytes, std::u16string& text) {
     if (codePage != 932) return false;
@@ -213,6 +186,26 @@ TEST(CharsetOfAPage, OtherCodePagesAreThePlatforms) {
     const ImportOptions options{1253, {oneLetter, nullptr}};
     EXPECT_THAT(importPage(pageOf(metaOf("Shift_JIS"), "\x83\xBF"), options).events,
                 ElementsAre("+Bookmarks", "\xE1|http://a/%CE%B1"));
+}
+
+TEST(CharsetOfAPage, WhereNobodyKnowsThemItsFrameIsStillRead) {
+    EXPECT_EQ(importPage(metaOf("iso-2022-jp") + "<A HREF=a>x</A>").events.at(1), "x|a");
+}
+
+// The first letter is made of "&" and "A", the second one of "<" and "!".
+TEST(CharsetOfAPage, ShiftedLettersAreNoSigns) {
+    const ImportOptions greek{1253, {oneLetter, nullptr}};
+    const std::string page =
+        "<DL><DT><A HREF=a>\x1B$B&A\x1B(B</A><DT><A HREF=b>\x1B$@<!\x1B(Jx</A></DL>";
+    for (const std::string& meta : {""s, metaOf("iso-2022-jp")}) {
+        EXPECT_THAT(importPage(meta + page, greek).events,
+                    ElementsAre("+Bookmarks", "\xE1|a", "\xE1x|b"))
+            << meta;
+    }
+}
+
+TEST(CharsetOfAPage, EscapesThatShiftNothingAreBlanks) {
+    EXPECT_EQ(importPage("<A HREF=a>a\x1B[Bb\x1B(Bc</A>").events.at(1), "a [Bb (Bc|a");
 }
 
 }  // namespace
