@@ -32,6 +32,12 @@ std::size_t findByte(std::string_view text, char byte, std::size_t from) {
                : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
+constexpr std::string_view script = "javascript:";
+
+std::size_t placeOf(char quote) {
+    return quote == '"' ? 1 : 0;
+}
+
 constexpr std::string_view attributeNames[] = {"add_date",   "alt",  "charset", "content",
                                                "feedurl",    "href", "id",      "last_modified",
                                                "last_visit", "name", "title"};
@@ -136,8 +142,10 @@ std::string_view HtmlScanner::readValue() {
 
 std::string_view HtmlScanner::readQuoted(char quote) {
     const std::size_t begin = ++at_;
-    bool& none = noQuote_[quote == '"' ? 1 : 0];
-    const std::size_t end = none ? npos : findByte(page_, quote, begin);
+    bool& none = noQuote_[placeOf(quote)];
+    std::size_t end = npos;
+    if (sameTagName(page_.substr(begin, script.size()), script)) end = scriptEnd(begin, quote);
+    if (end == npos && !none) end = findByte(page_, quote, begin);
     if (end != npos) {
         at_ = end + 1;
         return page_.substr(begin, end - begin);
@@ -145,6 +153,31 @@ std::string_view HtmlScanner::readQuoted(char quote) {
     none = true;
     while (!atEnd() && page_[at_] != '>' && page_[at_] != '\n' && page_[at_] != '\r') ++at_;
     return page_.substr(begin, at_ - begin);
+}
+
+// The first quote in the line behind which the tag goes on; npos where there is none.
+std::size_t HtmlScanner::scriptEnd(std::size_t begin, char quote) {
+    std::size_t& none = noScriptEnd_[placeOf(quote)];
+    if (begin < none) return npos;
+    std::size_t at = begin;
+    for (; at < page_.size() && page_[at] != '\n' && page_[at] != '\r'; ++at) {
+        if (page_[at] == quote && endsValue(at + 1)) return at;
+    }
+    none = at;
+    return npos;
+}
+
+// Whether the tag ends here, or another attribute with a value begins.
+bool HtmlScanner::endsValue(std::size_t behindQuote) const {
+    std::string_view rest = page_.substr(behindQuote, 64);
+    const auto skip = [&rest](auto passes) {
+        while (!rest.empty() && passes(rest.front())) rest.remove_prefix(1);
+    };
+    skip(isBlank);
+    if (rest.starts_with('>') || rest.starts_with("/>")) return true;
+    const std::size_t before = rest.size();
+    skip([](char byte) { return isLetter(byte) || byte == '_' || byte == '-'; });
+    return rest.size() != before && rest.starts_with('=');
 }
 
 // Stands behind the "<".

@@ -1,6 +1,7 @@
 // HTML scanner: the tags of a page, one after the other, with their attributes. It takes what
 // stands there apart as browsers do and never fails: an attribute needs no quotes; a quote that
 // closes nowhere in the page ends at the next ">" or with its line, a comment at the next ">".
+// Other than browsers it finds the end of a script in which quotes were not escaped.
 #pragma once
 
 #include <array>
@@ -80,6 +81,8 @@ private:
     void readAttribute();
     std::string_view readValue();
     std::string_view readQuoted(char quote);
+    std::size_t scriptEnd(std::size_t begin, char quote);
+    bool endsValue(std::size_t behindQuote) const;
     void skipDeclaration();
     std::size_t commentEnd(std::size_t from) const;
     bool beginsEntry(std::size_t at) const;
@@ -96,7 +99,8 @@ private:
     // What was looked for in vain is not looked for again: up to the end of the page, or, of the
     // closing tags of elements, up to a place in it.
     bool noCommentEnd_ = false;
-    std::array<bool, 2> noQuote_{};  // of ' and of "
+    std::array<bool, 2> noQuote_{};             // of ' and of "
+    std::array<std::size_t, 2> noScriptEnd_{};  // the same of one behind a script
     std::vector<NoEnd> noEndOf_;
     HtmlTag tag_;
 };

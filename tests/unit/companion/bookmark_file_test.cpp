@@ -263,6 +263,17 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"CommentUnclosed", "<A HREF=a>a</A><!-- x ><A HREF=b>b</A>", "+Bookmarks; a|a; b|b"},
         Case{"QuoteUnclosed", "<A HREF=a>a</A><A HREF=\"http://b/>b</A>\n<A HREF=c>c</A>",
              "+Bookmarks; a|a; b|http://b/; c|c"},
+        Case{"QuoteClosedByTheNext",
+             "<A HREF=a>a</A><A HREF=\"http://b/>b</A>\n<A HREF=\"c\">c</A><A HREF=d>d</A>",
+             "+Bookmarks; a|a; c|http://b/>b</A><A HREF=; d|d"},
+        Case{"QuotesInAScript",
+             "<A HREF=\"javascript:alert(\"hi\")\">a</A>"
+             "<A HREF=\"JavaScript:if(a>1)f(\"b>c\", \"\")\"ADD_DATE=\"1\">b</A>"
+             "<A HREF='javascript:g('x')' ADD_DATE='1'>c</A><A HREF=\"javascript:h('x')\"/>d</A>",
+             "+Bookmarks; a|javascript:alert(\"hi\"); b|JavaScript:if(a>1)f(\"b>c\", \"\"); "
+             "c|javascript:g('x'); d|javascript:h('x')"},
+        Case{"QuoteOfAScriptUnclosed", "<A HREF=\"javascript:f(\"x)\n<A HREF=b>b</A>",
+             "+Bookmarks; b|javascript:f("},
         Case{"UnknownTags", "<DL><font><D><A HREF=a>a</A></font></DL>", "+Bookmarks; a|a"}),
     nameOf);
 
@@ -347,8 +358,9 @@ TEST(BookmarkPage, ATagMayHaveAnyNumberOfAttributes) {
 
 // Of each kind of end that is missing, one far off: it is not looked for at each tag.
 TEST(BookmarkPage, AnEndThatIsFarAwayIsLookedForOnce) {
-    for (const std::string& open : {"<title>"s, "<script>"s, "<textarea>"s, "<h3><a href=a>"s,
-                                    "<h3> <b>"s, "<ul>"s, "<!-- -- "s}) {
+    for (const std::string& open :
+         {"<title>"s, "<script>"s, "<textarea>"s, "<h3><a href=a>"s, "<h3> <b>"s,
+          "<a href=\"javascript:\"x"s, "<ul>"s, "<!-- -- "s}) {
         std::string page;
         for (int i = 0; i < 100000; ++i) page += open;
         EXPECT_EQ(importPage(page + "<dl><a href=b>b</a><dt>").events.back(), "b|b") << open;
@@ -356,8 +368,9 @@ TEST(BookmarkPage, AnEndThatIsFarAwayIsLookedForOnce) {
 }
 
 TEST(BookmarkPage, ZeroBytesAreBlanks) {
-    const Imported imported = importPage("<A\0HREF=a\0>x\0y</A>\0<A HREF=b>\0</A>"s);
-    EXPECT_THAT(imported.events, ElementsAre("+Bookmarks", "x y|a", "b|b"));
+    const Imported imported =
+        importPage("<A\0HREF=a\0>x\0y</A>\0<A HREF=b>\0</A><A HREF=\"\0c\0d\0\">c</A>"s);
+    EXPECT_THAT(imported.events, ElementsAre("+Bookmarks", "x y|a", "b|b", "c|c%00d"));
 }
 
 TEST(BookmarkPage, LineEndsOfEveryKindAreTheSame) {
