@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "companion/import/import_sink.h"
+#include "companion/import/unicode.h"
 
 namespace magpie::fuzz {
 
@@ -32,23 +33,34 @@ class CheckingSink : public ImportSink {
 public:
     bool NewGroup(const std::string& name) override {
         require(!name.empty() && !hasControl(name) && name.find('+') == std::string::npos);
-        require(groups == 0 || linksInGroup != 0);
+        require(!full_ && (groups == 0 || linksInGroup != 0));
+        if (utf8) require(isUtf8(name) && name.size() <= 4096);
         ++groups;
         linksInGroup = 0;
         return true;
     }
     bool BungURL(const std::string& title, const std::string& url) override {
-        require(groups != 0 && !title.empty() && !hasControl(title));
+        require(!full_ && groups != 0 && !title.empty() && !hasControl(title));
         require(!url.empty() && isPrintableAscii(url) && url.front() != ' ');
+        if (utf8) require(isUtf8(title));
+        full_ = links == room;
+        if (full_) return false;
+        if (linksInGroup == 0) ++groupsWithLinks;
         ++linksInGroup;
         ++links;
         return true;
     }
     void storeLastRootOwner() override { require(groups == 1 && linksInGroup == 0); }
 
+    std::size_t room = static_cast<std::size_t>(-1);  // for so many links
+    bool utf8 = false;                                // what is handed over must be that
     std::size_t groups = 0;
+    std::size_t groupsWithLinks = 0;
     std::size_t links = 0;
     std::size_t linksInGroup = 0;
+
+private:
+    bool full_ = false;
 };
 
 }  // namespace magpie::fuzz

@@ -1,5 +1,7 @@
 #include "companion/com/bookmark_import.h"
 
+#include <new>
+#include <stdexcept>
 #include <string>
 
 #include "Pienest.h"
@@ -33,6 +35,7 @@ public:
         const int count = static_cast<int>(bytes.size());
         const int length = MultiByteToWideChar(CP_ACP, 0, bytes.data(), count, nullptr, 0);
         text_ = SysAllocStringLen(nullptr, static_cast<UINT>(length));
+        if (text_ == nullptr) throw std::bad_alloc();
         MultiByteToWideChar(CP_ACP, 0, bytes.data(), count, text_, length);
     }
     ~HandedText() { SysFreeString(text_); }
@@ -111,11 +114,11 @@ public:
 
     HRESULT STDMETHODCALLTYPE ImportFavorites(LONG window) noexcept override {
         return guarded([this, window] {
+            // Where there is no folder, that is said like any other that can't be read.
+            wchar_t folder[MAX_PATH] = L"";
+            SHGetSpecialFolderPathW(nullptr, folder, CSIDL_FAVORITES, FALSE);
             return import(reinterpret_cast<HWND>(static_cast<std::intptr_t>(window)),
-                          [](FolderFiles& files, ImportSink& sink) {
-                              wchar_t folder[MAX_PATH] = L"";
-                              if (!SHGetSpecialFolderPathW(nullptr, folder, CSIDL_FAVORITES, FALSE))
-                                  return ImportCounts{.unreadable = 1};
+                          [&folder](FolderFiles& files, ImportSink& sink) {
                               return importFavorites(files, utf8OfWide(folder), options(), sink);
                           });
         });
@@ -146,17 +149,25 @@ protected:
 private:
     static ImportOptions options() { return {programCodePage(), platformCodePages()}; }
 
+    // A file is whatever the user has chosen: what it holds may be more than memory does.
     template <class Reading>
-    HRESULT import(HWND owner, Reading reading) {
+    HRESULT import(HWND owner, Reading reading) noexcept {
+        try {
+            tell(owner, reportOf(countsOf(reading)));
+            return S_OK;
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY;
+        } catch (const std::length_error&) {
+            return E_OUTOFMEMORY;
+        }
+    }
+
+    template <class Reading>
+    ImportCounts countsOf(Reading reading) {
         Disk disk;
         EventSink sink(events_);
-        ImportCounts counts;
-        {
-            const WaitPointer waiting;
-            counts = reading(disk, sink);
-        }
-        tell(owner, reportOf(counts));
-        return S_OK;
+        const WaitPointer waiting;
+        return reading(disk, sink);
     }
 
     Host host_;

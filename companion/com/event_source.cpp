@@ -17,7 +17,7 @@ bool EventSource::raise(DISPID event, const std::vector<BSTR>& texts) {
         value.vt = VT_BSTR;
         value.bstrVal = texts[at];
     }
-    bool taken = true;
+    bool taken = !listeners_.empty();
     for (auto& [cookie, listener] : std::map(listeners_)) {
         DISPPARAMS parameters{handed.data(), nullptr, static_cast<UINT>(handed.size()), 0};
         taken = SUCCEEDED(listener->Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,

@@ -22,7 +22,7 @@ public:
     EventSource& operator=(const EventSource&) = delete;
 
     // Tells the listeners of an event with these texts, in the order of its parameters. False when
-    // one of them would not take it.
+    // one of them would not take it, or there is none.
     bool raise(DISPID event, const std::vector<BSTR>& texts);
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override;

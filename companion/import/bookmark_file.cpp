@@ -4,6 +4,7 @@
 #include <span>
 
 #include "companion/import/html_text.h"
+#include "companion/import/shifted_japanese.h"
 #include "companion/import/unicode.h"
 
 namespace magpie {
@@ -17,24 +18,40 @@ class PageTexts {
 public:
     PageTexts(unsigned pageCodePage, unsigned codePage, CodePageCalls calls)
         : utf8_(pageCodePage == 0 || pageCodePage == codePageUtf8),
-          reader_(utf8_ ? codePage : pageCodePage, calls) {}
+          reader_(utf8_ ? oldCodePage(codePage) : pageCodePage, calls) {}
 
     // Each is good until its next call.
-    const std::string& title(std::string_view html) {
+    const std::string& title(const BookmarkTitle& title) {
         title_.clear();
-        appendReadable(title_, decoded(html));
+        appendReadable(title_, decoded(title.html));
+        if (isBlankText(title_)) {
+            title_.clear();
+            appendReadableValue(title_, decoded(title.value));
+        }
         return title_;
     }
 
     const std::string& address(std::string_view value) {
         address_.clear();
-        appendWithoutEntities(address_, decoded(value), HtmlPlace::attribute);
+        appendWithoutEntities(address_, decoded(value), HtmlPlace::address);
         return address_;
     }
 
 private:
+    // Where the program has UTF-8 itself, what is none is older than that.
+    static unsigned oldCodePage(unsigned codePage) {
+        return codePage == codePageUtf8 ? codePageWestern : codePage;
+    }
+
+    // In a page of UTF-8 a text of another code page has no letter that could be read; one that
+    // has is UTF-8 of which something broke off.
+    bool isReadAsUtf8(std::string_view bytes) const {
+        const Utf8Count count = countUtf8(bytes);
+        return count.broken == 0 || count.letters != 0;
+    }
+
     std::string_view decoded(std::string_view bytes) {
-        if (isAscii(bytes) || (utf8_ && isUtf8(bytes))) return bytes;
+        if (isAscii(bytes) || (utf8_ && isReadAsUtf8(bytes))) return bytes;
         decoded_.clear();
         reader_.append(decoded_, bytes);
         return decoded_;
@@ -47,13 +64,25 @@ private:
     std::string address_;
 };
 
-bool allUtf8(const BookmarkPage& page) {
-    const auto utf8Link = [](const BookmarkLink& link) {
-        return isUtf8(link.title) && isUtf8(link.address);
+// A page that says nothing of its charset: by most of its letters, as one that was cut, or in which
+// a title was, has some that are broken.
+bool isMostlyUtf8(const BookmarkPage& page) {
+    Utf8Count sum;
+    const auto add = [&sum](std::string_view text) {
+        const Utf8Count count = countUtf8(text);
+        sum.letters += count.letters;
+        sum.broken += count.broken;
     };
-    const auto utf8Folder = [](const BookmarkFolder& folder) { return isUtf8(folder.title); };
-    return std::ranges::all_of(page.links, utf8Link) &&
-           std::ranges::all_of(page.folders, utf8Folder);
+    const auto addTitle = [&add](const BookmarkTitle& title) {
+        add(title.html);
+        add(title.value);
+    };
+    for (const BookmarkLink& link : page.links) {
+        addTitle(link.title);
+        add(link.address);
+    }
+    for (const BookmarkFolder& folder : page.folders) addTitle(folder.title);
+    return sum.letters >= sum.broken;
 }
 
 // The places of the links, folder by folder.
@@ -87,8 +116,7 @@ public:
     const std::string& enter(std::size_t folder) {
         while (!way_.empty() && way_.back().folder != page_.folders[folder].outer) leave();
         way_.push_back({folder, name_.size()});
-        if (!name_.empty()) name_ += betweenFolders;
-        name_ += nameInFolder({}, texts_.title(page_.folders[folder].title));
+        appendFolder(name_, texts_.title(page_.folders[folder].title));
         return name_;
     }
 
@@ -108,6 +136,17 @@ private:
     std::vector<Step> way_;
     std::string name_;
 };
+
+// Converts a page into a code page that has ASCII in it; answers which.
+unsigned unshift(std::string_view text, unsigned codePage, CodePageCalls calls,
+                 std::string& converted) {
+    if (codePage == codePageShiftedJapanese) {
+        converted = shiftJisOf(text);
+        return codePageJapanese;
+    }
+    CodePageReader(codePage, calls).append(converted, text);
+    return codePageUtf8;
+}
 
 void handOverPage(const BookmarkPage& page, PageTexts texts, HandOver& handOver) {
     const LinksByFolder links(page);
@@ -134,10 +173,14 @@ void importBookmarkBytes(std::string_view bytes, unsigned codePage, CodePageCall
         converted = utf8OfUtf16(text, start.text == FileText::utf16BigEndian);
         text = converted;
     }
-    const BookmarkPage page = readBookmarkPage(text);
-    unsigned read = page.codePage;
-    if (start.text != FileText::bytes) read = codePageUtf8;
-    if (read == 0) read = allUtf8(page) ? codePageUtf8 : codePage;
+    BookmarkPage page = readBookmarkPage(text);
+    unsigned read = start.text == FileText::bytes ? page.codePage : codePageUtf8;
+    if (read == 0 && hasJapaneseShift(text)) read = codePageShiftedJapanese;
+    if (isShifted(read)) {
+        read = unshift(text, read, calls, converted);
+        page = readBookmarkPage(converted);
+    }
+    if (read == 0) read = isMostlyUtf8(page) ? codePageUtf8 : codePage;
     handOverPage(page, PageTexts(read, codePage, calls), handOver);
 }
 

@@ -9,7 +9,8 @@
 //     <HR>                      a separator
 //   </DL>
 //
-// Whatever of it is missing, unclosed or in the wrong order is made up for; nothing is an error.
+// Headings of any size do, as do other lists behind them. Whatever of it is missing, unclosed or in
+// the wrong order is made up for; nothing is an error.
 #pragma once
 
 #include <cstddef>
@@ -23,14 +24,20 @@
 
 namespace magpie {
 
-// A folder or a link as it stands in the page: text with tags and entities.
+// A title as it stands in the page: text with tags and entities, and, for where nothing of it can
+// be read, what an attribute of its tag or of a picture in it says.
+struct BookmarkTitle {
+    std::string_view html;
+    std::string_view value;
+};
+
 struct BookmarkFolder {
-    std::string_view title;
+    BookmarkTitle title;
     std::size_t outer = 0;  // its place among the folders
 };
 
 struct BookmarkLink {
-    std::string_view title;
+    BookmarkTitle title;
     std::string_view address;
     std::size_t folder = 0;
 };
@@ -42,7 +49,8 @@ struct BookmarkPage {
     unsigned codePage = 0;  // as its META says; 0 where it says none that is known
 };
 
-// The page must outlive the result. `page` is in UTF-8 or in a code page that has ASCII in it.
+// The page must outlive the result. `page` is in UTF-8 or in a code page that has ASCII in it,
+// and is no shifted one other than to be asked for its META.
 [[nodiscard]] BookmarkPage readBookmarkPage(std::string_view page);
 
 // Hands over the links of a file's bytes, folder by folder in the page's order, those of no folder

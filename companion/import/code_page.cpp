@@ -15,22 +15,74 @@ struct WideLabel {
 
 // The names of code pages without a table.
 constexpr WideLabel wideLabels[] = {
-    {"utf-8", codePageUtf8}, {"utf8", codePageUtf8}, {"unicode-1-1-utf-8", codePageUtf8},
-    {"shift_jis", 932},      {"shift-jis", 932},     {"x-sjis", 932},
-    {"sjis", 932},           {"windows-31j", 932},   {"ms_kanji", 932},
-    {"gb2312", 936},         {"gbk", 936},           {"x-gbk", 936},
-    {"gb_2312-80", 936},     {"gb18030", 54936},     {"big5", 950},
-    {"big5-hkscs", 950},     {"x-x-big5", 950},      {"euc-kr", 949},
-    {"ks_c_5601-1987", 949}, {"windows-949", 949},   {"euc-jp", 20932},
-    {"x-euc-jp", 20932},
+    {"utf8", codePageUtf8},
+    {"unicode11utf8", codePageUtf8},
+    {"unicode20utf8", codePageUtf8},
+    {"utf7", codePageUtf7},
+    {"unicode11utf7", codePageUtf7},
+    {"unicode20utf7", codePageUtf7},
+    {"shiftjis", 932},
+    {"csshiftjis", 932},
+    {"sjis", 932},
+    {"windows31j", 932},
+    {"cswindows31j", 932},
+    {"mskanji", 932},
+    {"ms932", 932},
+    {"cp932", 932},
+    {"mscp932", 932},
+    {"gb2312", 936},
+    {"gb231280", 936},
+    {"csgb2312", 936},
+    {"csiso58gb231280", 936},
+    {"isoir58", 936},
+    {"gbk", 936},
+    {"euccn", 936},
+    {"cp936", 936},
+    {"ms936", 936},
+    {"windows936", 936},
+    {"chinese", 936},
+    {"gb18030", 54936},
+    {"hzgb2312", 52936},
+    {"hz", 52936},
+    {"big5", 950},
+    {"big5hkscs", 950},
+    {"xbig5", 950},
+    {"cnbig5", 950},
+    {"csbig5", 950},
+    {"cp950", 950},
+    {"windows950", 950},
+    {"euckr", 949},
+    {"cseuckr", 949},
+    {"ksc5601", 949},
+    {"ksc56011987", 949},
+    {"ksc56011989", 949},
+    {"csksc56011987", 949},
+    {"isoir149", 949},
+    {"korean", 949},
+    {"cp949", 949},
+    {"ms949", 949},
+    {"windows949", 949},
+    {"johab", 1361},
+    {"iso2022kr", 50225},
+    {"csiso2022kr", 50225},
+    {"eucjp", 20932},
+    {"cseucpkdfmtjapanese", 20932},
+    {"iso2022jp", codePageShiftedJapanese},
+    {"csiso2022jp", codePageShiftedJapanese},
 };
 
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& byte : lower) {
-        if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte + ('a' - 'A'));
+// Programs differ in case, hyphens and blanks, and in whether they call a name their own.
+std::string plainLabel(std::string_view label) {
+    label = label.substr(0, label.find(':'));
+    std::string plain;
+    for (const char byte : label) {
+        const char lower =
+            byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+        const bool own = byte == '-' && plain == "x";
+        if (own) plain.clear();
+        if ((lower >= 'a' && lower <= 'z') || (lower >= '0' && lower <= '9')) plain += lower;
     }
-    return lower;
+    return plain;
 }
 
 bool hasLabel(const CodePageTable& table, std::string_view label) {
@@ -46,14 +98,20 @@ bool hasLabel(const CodePageTable& table, std::string_view label) {
 }  // namespace
 
 unsigned codePageNamed(std::string_view label) {
-    const std::string lower = lowerCase(label);
+    const std::string plain = plainLabel(label);
+    if (plain.empty()) return 0;
     for (const WideLabel& wide : wideLabels) {
-        if (wide.label == lower) return wide.codePage;
+        if (wide.label == plain) return wide.codePage;
     }
     for (const CodePageTable& table : codePageTables) {
-        if (hasLabel(table, lower)) return table.number;
+        if (hasLabel(table, plain)) return table.number;
     }
     return 0;
+}
+
+bool isShifted(unsigned codePage) {
+    return codePage == codePageShiftedJapanese || codePage == 50225 || codePage == 52936 ||
+           codePage == codePageUtf7;
 }
 
 const CodePageTable* tableOf(unsigned codePage) {

@@ -12,8 +12,11 @@
 
 namespace magpie {
 
+inline constexpr unsigned codePageJapanese = 932;
 inline constexpr unsigned codePageWestern = 1252;
+inline constexpr unsigned codePageUtf7 = 65000;
 inline constexpr unsigned codePageUtf8 = 65001;
+inline constexpr unsigned codePageShiftedJapanese = 50220;  // ISO-2022-JP
 
 // The platform's conversions, for code pages of more than one byte to a character; both may be
 // absent. Each answers false where it knows no such code page; the second also where the text
@@ -23,8 +26,11 @@ struct CodePageCalls {
     bool (*fromUtf16)(unsigned codePage, std::u16string_view text, std::string& bytes) = nullptr;
 };
 
-// The code page of a name such as "iso-8859-1" or "Shift_JIS", in any case; 0 for one unknown.
+// The code page of a name such as "iso-8859-1" or "Shift_JIS", in any spelling; 0 for one unknown.
 [[nodiscard]] unsigned codePageNamed(std::string_view label);
+
+// Whether it writes letters as bytes that elsewhere are signs, so that a "<" may be part of one.
+[[nodiscard]] bool isShifted(unsigned codePage);
 
 // Null for a code page without a table.
 [[nodiscard]] const CodePageTable* tableOf(unsigned codePage);

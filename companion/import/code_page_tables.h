@@ -9,10 +9,10 @@ namespace magpie {
 
 struct CodePageTable {
     unsigned number;                // as Windows numbers it
-    std::string_view labels;        // the names that pages call it by, a blank between them
+    std::string_view labels;        // its names, letters and digits only, a blank between them
     std::u16string_view upperHalf;  // the characters of 80 to FF; U+FFFD where there is none
 };
 
-extern const std::array<CodePageTable, 27> codePageTables;  // in order of number
+extern const std::array<CodePageTable, 34> codePageTables;  // in order of number
 
 }  // namespace magpie

@@ -1,6 +1,7 @@
 #include "companion/import/favorites.h"
 
 #include <algorithm>
+#include <deque>
 #include <set>
 #include <string_view>
 #include <tuple>
@@ -27,7 +28,7 @@ std::string lowerCase(std::string_view text) {
 }
 
 bool hasEnding(std::string_view name, std::string_view ending) {
-    return name.size() > ending.size() &&
+    return name.size() >= ending.size() &&
            lowerCase(name.substr(name.size() - ending.size())) == ending;
 }
 
@@ -56,10 +57,12 @@ public:
 
     void run(const std::string& root) {
         waiting_.push_back({root, {}});
-        while (!waiting_.empty()) {
-            const Folder folder = std::move(waiting_.back());
-            waiting_.pop_back();
-            visit(folder);
+        visitWaiting();
+        // A folder that has a name of its own in the tree goes by that.
+        while (!links_.empty()) {
+            waiting_.push_back(std::move(links_.front()));
+            links_.pop_front();
+            visitWaiting();
         }
     }
 
@@ -68,6 +71,14 @@ private:
         std::string path;
         std::string group;  // empty for the root
     };
+
+    void visitWaiting() {
+        while (!waiting_.empty()) {
+            const Folder folder = std::move(waiting_.back());
+            waiting_.pop_back();
+            visit(folder);
+        }
+    }
 
     void visit(const Folder& folder) {
         const std::optional<std::string> identity = files_.identity(folder.path);
@@ -83,11 +94,20 @@ private:
         for (const FolderEntry& entry : entries) {
             if (!entry.folder) takeFile(folder, entry.name);
         }
+        takeFolders(folder, entries);
+    }
+
+    void takeFolders(const Folder& folder, const std::vector<FolderEntry>& entries) {
+        const auto in = [&](const FolderEntry& entry) {
+            return Folder{files_.inFolder(folder.path, entry.name),
+                          nameInFolder(folder.group, entry.name)};
+        };
         // The last one that waits is visited first.
         for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-            if (!entry->folder) continue;
-            waiting_.push_back({files_.inFolder(folder.path, entry->name),
-                                nameInFolder(folder.group, entry->name)});
+            if (entry->folder && !entry->link) waiting_.push_back(in(*entry));
+        }
+        for (const FolderEntry& entry : entries) {
+            if (entry.folder && entry.link) links_.push_back(in(entry));
         }
     }
 
@@ -105,6 +125,7 @@ private:
     const CodePageReader& codePage_;
     HandOver& handOver_;
     std::vector<Folder> waiting_;
+    std::deque<Folder> links_;
     std::set<std::string> visited_;
     std::string bytes_;
 };

@@ -12,6 +12,7 @@ namespace magpie {
 struct FolderEntry {
     std::string name;
     bool folder = false;
+    bool link = false;  // a folder that is another one's second name
 };
 
 class FolderFiles {

@@ -1,6 +1,6 @@
 #include "companion/import/hand_over.h"
 
-#include <algorithm>
+#include "companion/import/unicode.h"
 
 namespace magpie {
 
@@ -8,27 +8,28 @@ namespace {
 
 constexpr std::string_view nameless = "Untitled";
 
-bool isBlank(std::string_view text) {
-    return std::ranges::all_of(text,
-                               [](char byte) { return static_cast<unsigned char>(byte) <= ' '; });
-}
+// Far above what a hundred levels of usual names come to.
+constexpr std::size_t mostCharactersOfOne = 1000;
+constexpr std::size_t mostBytesOfAll = 4096;
 
 }  // namespace
 
 void HandOver::enter(std::string_view groupName, bool root) {
     groupName_ = groupName;
     root_ = root;
-    begun_ = false;
+    begun_ = counted_ = false;
 }
 
 void HandOver::link(std::string_view title, std::string_view address) {
     const std::string url = HostText::address(address);
     if (url.empty()) return skipWithoutAddress();
     if (full_ || !beginGroup()) return skipWithoutRoom();
-    std::string name = texts_.title(title);
+    std::string name = isBlankText(title) ? std::string() : texts_.title(title);
     if (name.empty()) name = url;
     full_ = !sink_.BungURL(name, url);
     if (full_) return skipWithoutRoom();
+    if (!counted_) ++counts_.groups;
+    counted_ = true;
     ++counts_.links;
 }
 
@@ -41,14 +42,19 @@ bool HandOver::beginGroup() {
     if (full_) return false;
     if (root_) sink_.storeLastRootOwner();
     begun_ = true;
-    ++counts_.groups;
     return true;
 }
 
 std::string nameInFolder(std::string_view outer, std::string_view inner) {
     std::string name(outer);
-    if (!outer.empty()) name += betweenFolders;
-    return name.append(isBlank(inner) ? nameless : inner);
+    appendFolder(name, inner);
+    return name;
+}
+
+void appendFolder(std::string& name, std::string_view inner) {
+    if (!name.empty()) name += betweenFolders;
+    name += isBlankText(inner) ? nameless : firstCharacters(inner, mostCharactersOfOne);
+    name.resize(firstBytes(name, mostBytesOfAll).size());
 }
 
 }  // namespace magpie

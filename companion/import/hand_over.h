@@ -41,13 +41,16 @@ private:
     const HostText& texts_;
     std::string_view groupName_;
     bool root_ = true;
-    bool begun_ = false;
+    bool begun_ = false;    // the sink has the group
+    bool counted_ = false;  // and a link of it
     bool full_ = false;
     ImportCounts counts_;
 };
 
 // The name of a folder's group: those of the folders around it and its own. A folder without a
-// name is given one.
+// name is given one. Of very long names the ends are left out, as the names of folders in folders
+// would be longer than all the file.
 [[nodiscard]] std::string nameInFolder(std::string_view outer, std::string_view inner);
+void appendFolder(std::string& name, std::string_view inner);
 
 }  // namespace magpie

@@ -1,6 +1,9 @@
 #include "companion/import/host_text.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
 
 #include "companion/import/letter_tables.h"
 #include "companion/import/unicode.h"
@@ -12,16 +15,21 @@ namespace {
 // Longer chains than letter, letter with one mark, letter with two marks do not exist.
 constexpr int mostSteps = 4;
 
+constexpr char32_t byteOrderMark = 0xFEFF;
+
+// Those that break lines are controls as well.
 bool isControl(char32_t character) {
-    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+    return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == 0x2028 ||
+           character == 0x2029;
 }
 
 // Joiners, marks of direction, variation selectors: without any look of their own.
 bool isUnseen(char32_t character) {
-    return (character >= 0x200B && character <= 0x200F) ||
+    return character == 0xAD || character == 0x61C || character == 0x180E ||
+           (character >= 0x200B && character <= 0x200F) ||
            (character >= 0x202A && character <= 0x202E) ||
            (character >= 0x2060 && character <= 0x206F) ||
-           (character >= 0xFE00 && character <= 0xFE0F) || character == 0xFEFF ||
+           (character >= 0xFE00 && character <= 0xFE0F) ||
            (character >= 0xE0000 && character <= 0xE0FFF);
 }
 
@@ -30,22 +38,45 @@ bool isMark(char32_t character) {
            (character >= 0x1AB0 && character <= 0x1AFF) ||
            (character >= 0x1DC0 && character <= 0x1DFF) ||
            (character >= 0x20D0 && character <= 0x20FF) ||
-           (character >= 0xFE20 && character <= 0xFE2F);
+           (character >= 0xFE20 && character <= 0xFE2F) || character == 0x3099 ||
+           character == 0x309A;
+}
+
+// Korean syllables are made of two or three letters by rule.
+char32_t composedSyllable(char32_t first, char32_t second) {
+    constexpr char32_t lead = 0x1100;
+    constexpr char32_t vowel = 0x1161;
+    constexpr char32_t trail = 0x11A7;
+    constexpr char32_t syllable = 0xAC00;
+    constexpr char32_t vowels = 21;
+    constexpr char32_t trails = 28;
+    if (first >= lead && first < lead + 19 && second >= vowel && second < vowel + vowels) {
+        return syllable + ((first - lead) * vowels + (second - vowel)) * trails;
+    }
+    const bool open = first >= syllable && first < syllable + 19 * vowels * trails &&
+                      (first - syllable) % trails == 0;
+    return open && second > trail && second < trail + trails ? first + (second - trail) : 0;
 }
 
 // 0 where no letter is made of the two.
 char32_t composed(char32_t base, char32_t mark) {
-    for (const ComposedLetter& each : composedLetters) {
-        if (each.base == base && each.mark == mark) return each.letter;
-    }
-    return 0;
+    if (!isMark(mark)) return composedSyllable(base, mark);
+    const std::pair wanted(base, mark);
+    const auto partsAt = [](std::size_t place) {
+        const ComposedLetter& each = composedLetters[place];
+        return std::pair(char32_t{each.base}, char32_t{each.mark});
+    };
+    const auto* const found = std::ranges::lower_bound(composedByParts, wanted, {}, partsAt);
+    return found != composedByParts.end() && partsAt(*found) == wanted
+               ? composedLetters[*found].letter
+               : 0;
 }
 
-// 0 for a letter that is not made of another.
-char32_t baseOf(char32_t letter) {
+// Null for a letter that is not made of another.
+const ComposedLetter* composition(char32_t letter) {
     const auto* const found = std::ranges::lower_bound(
         composedLetters, letter, {}, [](const auto& each) { return char32_t{each.letter}; });
-    return found != composedLetters.end() && found->letter == letter ? found->base : 0;
+    return found != composedLetters.end() && found->letter == letter ? &*found : nullptr;
 }
 
 std::u16string_view alikeOf(char32_t character) {
@@ -95,6 +126,23 @@ void appendPercent(std::string& text, char byte) {
 
 }  // namespace
 
+// A letter taken apart, the mark that comes last first.
+struct HostText::LetterParts {
+    static constexpr std::size_t mostMarks = 3;
+
+    explicit LetterParts(char32_t letter) : base(letter) {
+        for (const ComposedLetter* made = composition(base); made != nullptr && count < mostMarks;
+             made = composition(base)) {
+            marks[count++] = made->mark;
+            base = made->base;
+        }
+    }
+
+    char32_t base;
+    std::array<char32_t, mostMarks> marks{};
+    std::size_t count = 0;
+};
+
 HostText::HostText(unsigned codePage, CodePageCalls calls) : writer_(codePage, calls) {}
 
 std::string HostText::title(std::string_view utf8) const {
@@ -106,7 +154,7 @@ std::string HostText::title(std::string_view utf8) const {
         while (at < utf8.size()) {
             std::size_t behind = at;
             const char32_t mark = nextUtf8(utf8, behind);
-            const char32_t whole = isMark(mark) ? composed(character, mark) : 0;
+            const char32_t whole = composed(character, mark);
             if (whole == 0) break;
             character = whole;
             at = behind;
@@ -125,21 +173,50 @@ std::string HostText::groupName(std::string_view utf8) const {
 void HostText::append(std::string& text, char32_t character, int depth) const {
     if (isControl(character)) {
         text += ' ';
-    } else if (isUnseen(character)) {
-        return;
-    } else if (!writer_.append(text, character)) {
+    } else if (character != byteOrderMark && !writer_.append(text, character) &&
+               !isUnseen(character) && !appendInParts(text, character)) {
         appendAlike(text, character, depth);
     }
 }
 
+// A letter of several marks, as the code page may have it: with one of them, the others behind it;
+// with all of them behind it; or with one of them alone.
+bool HostText::appendInParts(std::string& text, char32_t letter) const {
+    const LetterParts parts(letter);
+    if (parts.count == 0) return false;
+    for (std::size_t with = 0; with <= parts.count; ++with) {
+        if (appendWithMarks(text, parts, with)) return true;
+    }
+    for (std::size_t with = parts.count; with-- > 0;) {
+        const char32_t one = composed(parts.base, parts.marks[with]);
+        if (one != 0 && writer_.append(text, one)) return true;
+    }
+    return false;
+}
+
+// The base made one with the mark at a place, or, where there is none at it, by itself, and the
+// other marks.
+bool HostText::appendWithMarks(std::string& text, const LetterParts& parts,
+                               std::size_t with) const {
+    const bool alone = with == parts.count;
+    const char32_t one = alone ? parts.base : composed(parts.base, parts.marks[with]);
+    std::string written;
+    if (one == 0 || !writer_.append(written, one)) return false;
+    for (std::size_t at = parts.count; at-- > 0;) {
+        if (at != with && !writer_.append(written, parts.marks[at])) return false;
+    }
+    text += written;
+    return true;
+}
+
 void HostText::appendAlike(std::string& text, char32_t character, int depth) const {
-    const char32_t base = baseOf(character);
+    const ComposedLetter* const made = composition(character);
     const char32_t plain = plainOfFace(character);
     const std::u16string_view alike = alikeOf(character);
     if (depth == mostSteps) {
         text += '?';
-    } else if (base != 0) {
-        append(text, base, depth + 1);
+    } else if (made != nullptr) {
+        append(text, made->base, depth + 1);
     } else if (plain != 0) {
         append(text, plain, depth + 1);
     } else if (!alike.empty()) {

@@ -2,6 +2,7 @@
 // its code page, and without anything that the stack file would take for something else.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,9 +14,9 @@ class HostText {
 public:
     explicit HostText(unsigned codePage, CodePageCalls calls = {});
 
-    // A title: a character that the code page does not hold becomes the nearest letter, or "?";
-    // a letter with its mark behind it becomes one; characters that nobody sees go; a control
-    // character becomes a blank; blanks at the ends go.
+    // A title: a letter with its mark behind it becomes one. A character that the code page does
+    // not hold becomes the letter and the mark that it is made of, or the nearest letter, or "?";
+    // one that nobody sees goes. A control character becomes a blank; blanks at the ends go.
     [[nodiscard]] std::string title(std::string_view utf8) const;
 
     // A group's name: the same with "&" for "+", at which the stack file cuts names.
@@ -27,7 +28,11 @@ public:
     [[nodiscard]] static std::string address(std::string_view utf8);
 
 private:
+    struct LetterParts;
+
     void append(std::string& text, char32_t character, int depth) const;
+    bool appendInParts(std::string& text, char32_t letter) const;
+    bool appendWithMarks(std::string& text, const LetterParts& parts, std::size_t with) const;
     void appendAlike(std::string& text, char32_t character, int depth) const;
 
     CodePageWriter writer_;

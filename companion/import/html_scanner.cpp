@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace magpie {
 
@@ -31,6 +32,17 @@ std::size_t findByte(std::string_view text, char byte, std::size_t from) {
                : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
+constexpr std::string_view script = "javascript:";
+
+std::size_t placeOf(char quote) {
+    return quote == '"' ? 1 : 0;
+}
+
+constexpr std::string_view attributeNames[] = {"add_date",   "alt",  "charset", "content",
+                                               "feedurl",    "href", "id",      "last_modified",
+                                               "last_visit", "name", "title"};
+static_assert(std::size(attributeNames) == static_cast<std::size_t>(HtmlAttribute::count));
+
 }  // namespace
 
 bool sameTagName(std::string_view name, std::string_view lower) {
@@ -43,11 +55,19 @@ bool HtmlTag::is(std::string_view lower) const {
     return sameTagName(name, lower);
 }
 
-const HtmlAttribute* HtmlTag::find(std::string_view lower) const {
-    const auto found = std::ranges::find_if(attributes, [lower](const HtmlAttribute& attribute) {
-        return sameTagName(attribute.name, lower);
-    });
-    return found == attributes.end() ? nullptr : &*found;
+void HtmlAttributes::add(std::string_view name, std::string_view value) {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!sameTagName(name, attributeNames[i])) continue;
+        const std::uint32_t bit = 1U << i;
+        if ((present_ & bit) == 0) values_[i] = value;
+        present_ |= bit;
+        return;
+    }
+}
+
+const std::string_view* HtmlAttributes::find(HtmlAttribute attribute) const {
+    const auto at = static_cast<std::size_t>(attribute);
+    return (present_ >> at & 1U) != 0 ? &values_[at] : nullptr;
 }
 
 const HtmlTag* HtmlScanner::next() {
@@ -100,14 +120,15 @@ void HtmlScanner::readAttribute() {
            page_[at_] != '=') {
         ++at_;
     }
-    HtmlAttribute attribute{page_.substr(name, at_ - name), {}};
+    const std::string_view attribute = page_.substr(name, at_ - name);
+    std::string_view value;
     skipBlanks();
     if (!atEnd() && page_[at_] == '=') {
         ++at_;
         skipBlanks();
-        attribute.value = readValue();
+        value = readValue();
     }
-    tag_.attributes.push_back(attribute);
+    tag_.attributes.add(attribute, value);
 }
 
 std::string_view HtmlScanner::readValue() {
@@ -121,8 +142,10 @@ std::string_view HtmlScanner::readValue() {
 
 std::string_view HtmlScanner::readQuoted(char quote) {
     const std::size_t begin = ++at_;
-    bool& none = noQuote_[quote == '"' ? 1 : 0];
-    const std::size_t end = none ? npos : findByte(page_, quote, begin);
+    bool& none = noQuote_[placeOf(quote)];
+    std::size_t end = npos;
+    if (sameTagName(page_.substr(begin, script.size()), script)) end = scriptEnd(begin, quote);
+    if (end == npos && !none) end = findByte(page_, quote, begin);
     if (end != npos) {
         at_ = end + 1;
         return page_.substr(begin, end - begin);
@@ -132,14 +155,39 @@ std::string_view HtmlScanner::readQuoted(char quote) {
     return page_.substr(begin, at_ - begin);
 }
 
+// The first quote in the line behind which the tag goes on; npos where there is none.
+std::size_t HtmlScanner::scriptEnd(std::size_t begin, char quote) {
+    std::size_t& none = noScriptEnd_[placeOf(quote)];
+    if (begin < none) return npos;
+    std::size_t at = begin;
+    for (; at < page_.size() && page_[at] != '\n' && page_[at] != '\r'; ++at) {
+        if (page_[at] == quote && endsValue(at + 1)) return at;
+    }
+    none = at;
+    return npos;
+}
+
+// Whether the tag ends here, or another attribute with a value begins.
+bool HtmlScanner::endsValue(std::size_t behindQuote) const {
+    std::string_view rest = page_.substr(behindQuote, 64);
+    const auto skip = [&rest](auto passes) {
+        while (!rest.empty() && passes(rest.front())) rest.remove_prefix(1);
+    };
+    skip(isBlank);
+    if (rest.starts_with('>') || rest.starts_with("/>")) return true;
+    const std::size_t before = rest.size();
+    skip([](char byte) { return isLetter(byte) || byte == '_' || byte == '-'; });
+    return rest.size() != before && rest.starts_with('=');
+}
+
 // Stands behind the "<".
 void HtmlScanner::skipDeclaration() {
     if (page_.substr(at_).starts_with("!--")) {
         at_ += 3;
         // Two of the hyphens that open a comment may close it.
-        const std::size_t close = noCommentEnd_ ? npos : page_.find("-->", at_ - 2);
-        if (close != npos) {
-            at_ = close + 3;
+        const std::size_t end = noCommentEnd_ ? npos : commentEnd(at_ - 2);
+        if (end != npos) {
+            at_ = end;
             return;
         }
         noCommentEnd_ = true;
@@ -148,17 +196,41 @@ void HtmlScanner::skipDeclaration() {
     at_ = end == npos ? page_.size() : end + 1;
 }
 
-void HtmlScanner::skipRawText(std::string_view lowerName) {
-    if (std::ranges::find(noEndOf_, lowerName) != noEndOf_.end()) return;
-    for (std::size_t at = findByte(page_, '<', at_); at != npos;
-         at = findByte(page_, '<', at + 1)) {
+// Behind the next "-->", or what has been one as well: "--!>" and "-- >". The hyphens at `from` are
+// those that opened the comment.
+std::size_t HtmlScanner::commentEnd(std::size_t from) const {
+    for (std::size_t at = page_.find("--", from); at != npos; at = page_.find("--", at)) {
+        const bool opening = at == from;
+        while (at < page_.size() && page_[at] == '-') ++at;
+        std::size_t end = at;
+        if (!opening && end < page_.size() && page_[end] == '!') ++end;
+        while (!opening && end < page_.size() && isBlank(page_[end])) ++end;
+        if (end < page_.size() && page_[end] == '>') return end + 1;
+    }
+    return npos;
+}
+
+// Whether a DT or a DL stands at a "<".
+bool HtmlScanner::beginsEntry(std::size_t at) const {
+    const std::string_view name = page_.substr(at + 1, 2);
+    if (!sameTagName(name, "dt") && !sameTagName(name, "dl")) return false;
+    return at + 3 >= page_.size() || !isLetter(page_[at + 3]);
+}
+
+bool HtmlScanner::skipRawText(std::string_view lowerName) {
+    auto known = std::ranges::find(noEndOf_, lowerName, &NoEnd::element);
+    if (known != noEndOf_.end() && at_ < known->upTo) return false;
+    std::size_t at = findByte(page_, '<', at_);
+    for (; at != npos && !beginsEntry(at); at = findByte(page_, '<', at + 1)) {
         const std::string_view rest = page_.substr(at + 1);
         if (rest.starts_with('/') && sameTagName(rest.substr(1, lowerName.size()), lowerName)) {
             at_ = at;
-            return;
+            return true;
         }
     }
-    noEndOf_.push_back(lowerName);
+    if (known == noEndOf_.end()) known = noEndOf_.insert(known, {lowerName, 0});
+    known->upTo = std::min(at, page_.size());
+    return false;
 }
 
 void HtmlScanner::skipBlanks() {

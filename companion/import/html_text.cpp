@@ -12,11 +12,10 @@ namespace magpie {
 
 namespace {
 
-constexpr char32_t noCharacter = 0;
-
 // An entity at the beginning of a text; no size where there is none.
 struct Entity {
-    char32_t character = noCharacter;
+    char32_t character = 0;
+    char32_t second = 0;  // 0 where it means one
     std::size_t size = 0;
 };
 
@@ -57,7 +56,7 @@ Entity numberAt(std::string_view text) {
     }
     if (at == begin) return {};
     if (at < text.size() && text[at] == ';') ++at;
-    return {characterOfNumber(number), at};
+    return {characterOfNumber(number), 0, at};
 }
 
 const NamedEntity* entityNamed(std::string_view name) {
@@ -70,9 +69,24 @@ const NamedEntity* looseEntityIn(std::string_view word) {
     constexpr std::size_t longest = 6;
     for (std::size_t size = std::min(word.size(), longest); size > 1; --size) {
         const NamedEntity* const entity = entityNamed(word.substr(0, size));
-        if (entity != nullptr && entity->loose) return entity;
+        if (entity != nullptr && entity->end == EntityEnd::loose) return entity;
     }
     return nullptr;
+}
+
+// A name without a semicolon, or null. Addresses were written by programs that escaped the few
+// signs that they must, or nothing: any other name there is a parameter's.
+const NamedEntity* unclosedEntity(std::string_view word, std::string_view behind, HtmlPlace place) {
+    const NamedEntity* const entity = entityNamed(word);
+    if (place == HtmlPlace::address) {
+        constexpr std::string_view ofNames = "=_-.[%";
+        const bool escape =
+            entity != nullptr && (entity->character == '&' || entity->character == '"' ||
+                                  entity->character == '<' || entity->character == '>');
+        const bool name = !behind.empty() && ofNames.find(behind.front()) != std::string_view::npos;
+        return escape && entity->end == EntityEnd::loose && !name ? entity : nullptr;
+    }
+    return entity != nullptr && entity->end != EntityEnd::closed ? entity : looseEntityIn(word);
 }
 
 // The text begins with "&".
@@ -82,16 +96,11 @@ Entity nameAt(std::string_view text, HtmlPlace place) {
     while (end < text.size() && end <= longest && isWord(text[end])) ++end;
     const std::string_view word = text.substr(1, end - 1);
     const bool closed = end < text.size() && text[end] == ';';
-    const NamedEntity* entity = entityNamed(word);
-    if (entity != nullptr && closed) return {entity->character, end + 1};
-    if (place == HtmlPlace::attribute) {
-        const bool parameter = end < text.size() && text[end] == '=';
-        if (entity == nullptr || !entity->loose || parameter) return {};
-    } else if (entity == nullptr) {
-        entity = looseEntityIn(word);
-    }
+    const NamedEntity* entity = closed ? entityNamed(word) : nullptr;
+    if (entity != nullptr) return {entity->character, entity->second, end + 1};
+    entity = unclosedEntity(word, text.substr(end), place);
     if (entity == nullptr) return {};
-    return {entity->character, 1 + entity->name.size()};
+    return {entity->character, entity->second, 1 + entity->name.size()};
 }
 
 Entity entityAt(std::string_view text, HtmlPlace place) {
@@ -131,6 +140,13 @@ bool breaksLine(const HtmlTag& tag) {
     return tag.is("br") || tag.is("p");
 }
 
+// True where the text up to the next tag is no text of the page.
+bool skipHidden(HtmlScanner& scanner, const HtmlTag& tag) {
+    if (tag.closing) return false;
+    return (tag.is("script") && scanner.skipRawText("script")) ||
+           (tag.is("style") && scanner.skipRawText("style"));
+}
+
 }  // namespace
 
 void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace place) {
@@ -146,6 +162,7 @@ void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace
             continue;
         }
         appendUtf8(result, entity.character);
+        if (entity.second != 0) appendUtf8(result, entity.second);
         text.remove_prefix(entity.size);
     }
 }
@@ -159,12 +176,21 @@ void appendReadable(std::string& result, std::string_view html) {
     bool blank = false;
     HtmlScanner scanner(html);
     std::size_t from = 0;
+    bool shown = true;
     while (const HtmlTag* const tag = scanner.next()) {
-        appendFolded(folded, html.substr(from, tag->begin - from), blank);
+        if (shown) appendFolded(folded, html.substr(from, tag->begin - from), blank);
         blank = blank || breaksLine(*tag);
         from = tag->end;
+        shown = !skipHidden(scanner, *tag);
     }
     appendFolded(folded, html.substr(from), blank);
+    appendWithoutEntities(result, folded, HtmlPlace::text);
+}
+
+void appendReadableValue(std::string& result, std::string_view value) {
+    std::string folded;
+    bool blank = false;
+    appendFolded(folded, value, blank);
     appendWithoutEntities(result, folded, HtmlPlace::text);
 }
 

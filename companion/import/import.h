@@ -20,7 +20,8 @@ struct ImportOptions {
 ImportCounts importFavorites(FolderFiles& files, const std::string& path,
                              const ImportOptions& options, ImportSink& sink);
 
-// The file at a path, UTF-8, as a Netscape bookmark file. One that can't be read counts as that.
+// The file at a path, UTF-8, as a Netscape bookmark file. One that can't be read, or is
+// far too long for one, counts as unreadable.
 ImportCounts importBookmarkFile(FolderFiles& files, const std::string& path,
                                 const ImportOptions& options, ImportSink& sink);
 

@@ -18,7 +18,8 @@ void appendSentence(std::string& report, std::size_t count, std::string_view one
 }  // namespace
 
 std::string reportOf(const ImportCounts& counts) {
-    std::string report = "No links were found.";
+    const bool skipped = counts.withoutAddress + counts.unreadable + counts.withoutRoom != 0;
+    std::string report = skipped ? "No links were imported." : "No links were found.";
     if (counts.links != 0) {
         report = counted(counts.links, "link in ", "links in ");
         report.append(counted(counts.groups, "group", "groups"));

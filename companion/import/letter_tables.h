@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 namespace magpie {
@@ -18,7 +19,8 @@ struct AlikeText {
     std::u16string_view text;
 };
 
-extern const std::array<ComposedLetter, 782> composedLetters;  // in order of letter
-extern const std::array<AlikeText, 601> alikeTexts;            // in order of character
+extern const std::array<ComposedLetter, 840> composedLetters;  // in order of letter
+extern const std::array<std::uint16_t, 840> composedByParts;   // places in it, by base and mark
+extern const std::array<AlikeText, 614> alikeTexts;            // in order of character
 
 }  // namespace magpie

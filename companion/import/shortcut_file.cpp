@@ -99,7 +99,7 @@ std::string addressInShortcut(std::string_view bytes, const CodePageReader& code
     const Addresses found = addressesIn(text);
     // One that stands in both forms alike was not encoded, and a "+" in it means itself.
     if (!found.wide.empty() && found.wide != found.plain) {
-        return readText(decodeUtf7(found.wide), codePage);
+        return decodeUtf7(readText(found.wide, codePage));
     }
     for (const std::string_view address :
          {found.plain, found.ansi, found.sectionless, found.base}) {

@@ -41,24 +41,39 @@ std::size_t utf8Length(unsigned first) {
 
 struct Utf8Character {
     char32_t character;
-    std::size_t length;  // 0: the byte can't be read
+    std::size_t length;  // of what can't be read: the bytes that belong together
+    bool valid;
 };
+
+bool isContinuation(unsigned byte) {
+    return (byte & 0xC0U) == 0x80;
+}
 
 Utf8Character readUtf8(std::string_view text, std::size_t at) {
     constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
     const unsigned first = byteAt(text, at);
     const std::size_t length = utf8Length(first);
-    if (length == 1) return {first, 1};
-    if (length == 0 || text.size() - at < length) return {replacementCharacter, 0};
+    if (length == 1) return {first, 1, true};
+    if (length == 0) return {replacementCharacter, 1, false};
     char32_t character = first & (0xFFU >> (length + 1));
     for (std::size_t i = 1; i < length; ++i) {
-        const unsigned byte = byteAt(text, at + i);
-        if ((byte & 0xC0U) != 0x80) return {replacementCharacter, 0};
-        character = (character << 6U) | (byte & 0x3FU);
+        if (at + i == text.size() || !isContinuation(byteAt(text, at + i))) {
+            return {replacementCharacter, i, false};
+        }
+        character = (character << 6U) | (byteAt(text, at + i) & 0x3FU);
     }
     const bool valid =
         character >= least[length] && character <= lastCharacter && !isSurrogate(character);
-    return valid ? Utf8Character{character, length} : Utf8Character{replacementCharacter, 0};
+    return valid ? Utf8Character{character, length, true}
+                 : Utf8Character{replacementCharacter, 1, false};
+}
+
+bool isBlank(char32_t character) {
+    return character <= 0x20 || (character >= 0x7F && character <= 0xA0) || character == 0xAD ||
+           character == 0x1680 || (character >= 0x2000 && character <= 0x200F) ||
+           (character >= 0x2028 && character <= 0x202F) ||
+           (character >= 0x205F && character <= 0x206F) || character == 0x3000 ||
+           (character >= 0xFE00 && character <= 0xFE0F) || character == 0xFEFF;
 }
 
 // Appends UTF-16 that comes unit by unit.
@@ -130,7 +145,7 @@ void appendUtf8(std::string& text, char32_t character) {
 
 char32_t nextUtf8(std::string_view text, std::size_t& at) {
     const Utf8Character read = readUtf8(text, at);
-    at += std::max<std::size_t>(read.length, 1);
+    at += read.length;
     return read.character;
 }
 
@@ -147,14 +162,39 @@ bool isAscii(std::string_view text) {
 }
 
 bool isUtf8(std::string_view text) {
-    if (isAscii(text)) return true;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        const std::size_t length = readUtf8(text, at).length;
-        if (length == 0) return false;
-        at += length;
+    return countUtf8(text).broken == 0;
+}
+
+Utf8Count countUtf8(std::string_view text) {
+    Utf8Count count;
+    if (isAscii(text)) return count;
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Character read = readUtf8(text, at);
+        if (!read.valid) ++count.broken;
+        if (read.length > 1 && read.valid) ++count.letters;
+        at += read.length;
+    }
+    return count;
+}
+
+bool isBlankText(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        if (!isBlank(nextUtf8(text, at))) return false;
     }
     return true;
+}
+
+std::string_view firstBytes(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return text;
+    while (most != 0 && isContinuation(byteAt(text, most))) --most;
+    return text.substr(0, most);
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return text;
+    std::size_t at = 0;
+    for (; most != 0 && at < text.size(); --most) at += readUtf8(text, at).length;
+    return text.substr(0, at);
 }
 
 std::string utf8Of(std::u16string_view text) {
@@ -167,7 +207,12 @@ std::string utf8Of(std::u16string_view text) {
 
 FileStart fileStart(std::string_view bytes) {
     using namespace std::string_view_literals;
-    if (bytes.starts_with("\xEF\xBB\xBF"sv)) return {FileText::utf8, bytes.substr(3)};
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(mark)) {
+        // A program that put its own mark ahead of a text with one left two.
+        while (bytes.starts_with(mark)) bytes.remove_prefix(mark.size());
+        return {FileText::utf8, bytes};
+    }
     if (bytes.starts_with("\xFF\xFE"sv)) return {FileText::utf16LittleEndian, bytes.substr(2)};
     if (bytes.starts_with("\xFE\xFF"sv)) return {FileText::utf16BigEndian, bytes.substr(2)};
     return {guessUtf16(bytes), bytes};

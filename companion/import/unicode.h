@@ -14,12 +14,26 @@ inline constexpr char32_t replacementCharacter = 0xFFFD;
 // A surrogate, or what is no character at all, is appended as U+FFFD.
 void appendUtf8(std::string& text, char32_t character);
 
-// The character at a place of the text, which must not be its end; the place moves behind it. A
-// byte that can't be read is U+FFFD for itself alone.
+// The character at a place of the text, which must not be its end; the place moves behind it. What
+// is left of a broken character is one U+FFFD.
 [[nodiscard]] char32_t nextUtf8(std::string_view text, std::size_t& at);
 
 [[nodiscard]] bool isAscii(std::string_view text);
 [[nodiscard]] bool isUtf8(std::string_view text);
+
+// Of the characters above 7F: how many there are, and how many are broken.
+struct Utf8Count {
+    std::size_t letters = 0;
+    std::size_t broken = 0;
+};
+[[nodiscard]] Utf8Count countUtf8(std::string_view text);
+
+// Whether nobody sees anything of it.
+[[nodiscard]] bool isBlankText(std::string_view text);
+
+// The text's first bytes, at most so many, without a part of a character at the end.
+[[nodiscard]] std::string_view firstBytes(std::string_view text, std::size_t most);
+[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t most);
 
 [[nodiscard]] std::string utf8Of(std::u16string_view text);
 

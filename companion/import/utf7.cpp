@@ -1,5 +1,6 @@
 #include "companion/import/utf7.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -23,12 +24,24 @@ int digitOf(char byte, bool withComma) {
     return byte == '/' || (withComma && byte == ',') ? 63 : noDigit;
 }
 
-std::string_view digitsAt(std::string_view text, bool withComma) {
-    text = text.substr(0, longestRun);
-    std::size_t size = 0;
-    while (size < text.size() && digitOf(text[size], withComma) != noDigit) ++size;
-    return text.substr(0, size);
-}
+// The digits at a place of a text, of which each is looked at once however many places there are.
+class Digits {
+public:
+    explicit Digits(bool withComma) : withComma_(withComma) {}
+
+    std::string_view at(std::string_view text) {
+        if (end_ == nullptr || text.data() >= end_) {
+            std::size_t size = 0;
+            while (size < text.size() && digitOf(text[size], withComma_) != noDigit) ++size;
+            end_ = text.data() + size;
+        }
+        return text.substr(0, std::min(static_cast<std::size_t>(end_ - text.data()), longestRun));
+    }
+
+private:
+    bool withComma_;
+    const char* end_ = nullptr;
+};
 
 bool isWhole(std::u16string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -65,8 +78,7 @@ struct Run {
     std::size_t size = 0;
 };
 
-Run runAt(std::string_view text, bool withComma) {
-    const std::string_view digits = digitsAt(text, withComma);
+Run runAt(std::string_view text, std::string_view digits, bool withComma) {
     if (digits.size() == longestRun) return {};
     const bool ended = digits.size() < text.size() && text[digits.size()] == '-';
     if (withComma && !ended) return {};
@@ -78,6 +90,8 @@ Run runAt(std::string_view text, bool withComma) {
 
 std::string decodeUtf7(std::string_view text) {
     std::string result;
+    Digits strict(false);
+    Digits withComma(true);
     while (!text.empty()) {
         const std::size_t plain = text.find('+');
         result += text.substr(0, plain);
@@ -88,14 +102,14 @@ std::string decodeUtf7(std::string_view text) {
             text.remove_prefix(1);
             continue;
         }
-        const std::string_view digits = digitsAt(text, false);
+        const std::string_view digits = strict.at(text);
         if (digits.size() == longestRun) {
             result.append("+").append(digits);
             text.remove_prefix(digits.size());
             continue;
         }
-        Run run = runAt(text, false);
-        if (run.size == 0) run = runAt(text, true);
+        Run run = runAt(text, digits, false);
+        if (run.size == 0) run = runAt(text, withComma.at(text), true);
         if (run.size == 0) result += '+';
         result += utf8Of(run.text);
         text.remove_prefix(run.size);

@@ -26,10 +26,10 @@ struct CloseSearch {
 };
 using Search = std::unique_ptr<HANDLE, CloseSearch>;
 
-// The prefix takes a path as it is: longer than 260 characters, names with blanks at the end.
-std::wstring platformPath(const std::string& path) {
-    const bool drive = path.size() > 2 && path[1] == ':' && path[2] == '\\';
-    return drive ? L"\\\\?\\" + wideOf(path) : wideOf(path);
+bool isLink(const WIN32_FIND_DATAW& found) {
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           (found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT ||
+            found.dwReserved0 == IO_REPARSE_TAG_SYMLINK);
 }
 
 HANDLE orNull(HANDLE handle) {
@@ -44,6 +44,13 @@ File openFile(const std::string& path, DWORD access, DWORD flags) {
 
 }  // namespace
 
+std::wstring platformPath(std::string_view path) {
+    if (path.size() > 2 && path[1] == ':' && path[2] == '\\') return L"\\\\?\\" + wideOf(path);
+    const bool server =
+        path.size() > 2 && path.starts_with("\\\\") && path[2] != '?' && path[2] != '.';
+    return server ? L"\\\\?\\UNC" + wideOf(path.substr(1)) : wideOf(path);
+}
+
 bool Disk::list(const std::string& path, std::vector<FolderEntry>& entries) {
     WIN32_FIND_DATAW found{};
     const std::wstring all = platformPath(inFolder(path, "*"));
@@ -55,7 +62,7 @@ bool Disk::list(const std::string& path, std::vector<FolderEntry>& entries) {
         const std::wstring_view name = found.cFileName;
         if (name == L"." || name == L"..") continue;
         const bool folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        entries.push_back({utf8OfWide(name), folder});
+        entries.push_back({utf8OfWide(name), folder, folder && isLink(found)});
     } while (FindNextFileW(search.get(), &found) != 0);
     return GetLastError() == ERROR_NO_MORE_FILES;
 }

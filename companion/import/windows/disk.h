@@ -1,9 +1,16 @@
 // Disk: the folders and files of Windows, for an import.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "companion/import/folder_files.h"
 
 namespace magpie {
+
+// A path that the platform takes as it is: longer than 260 characters, names with blanks at the
+// end.
+[[nodiscard]] std::wstring platformPath(std::string_view path);
 
 class Disk : public FolderFiles {
 public:

@@ -1,6 +1,8 @@
 #include "companion/import/bookmark_file.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
+#include <limits>
 #include <string>
 
 #include "tests/unit/companion/bookmark_fixture.h"
@@ -65,11 +67,43 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"NameWithTags", "<DL><DT><H3><b>F</b>&amp;<i>G</i></H3><DL><DT><A HREF=a>a</A></DL>",
              "+F&G; a|a"},
         Case{"HeadingIsALink", "<DL><DT><H3><A HREF=f>F</A></H3><DL><DT><A HREF=a>a</A></DL></DL>",
-             "+F; a|a"},
+             "+F; F|f; a|a"},
+        Case{"HeadingIsALinkInATag",
+             "<DL><DT><H3><!-- x --><B><IMG SRC=i> <A HREF=f>F</A></B></H3><DL><DT><A HREF=a>a</A>"
+             "</DL></DL>",
+             "+F; F|f; a|a"},
+        Case{"HeadingIsALinkOfNoList",
+             "<DL><DT><H3><A HREF=f>F</A></H3><DT><H3><A HREF=g>G</A></H3></DL>",
+             "+Bookmarks; F|f; G|g"},
+        Case{"HeadingHasAnAnchor",
+             "<DL><DT><H3><A NAME=f></A>F</H3><DL><DT><A HREF=a>a</A></DL></DL>", "+F; a|a"},
         Case{"OtherHeadings",
              "<H1>T</H1><DL><DT><H2>F</H2><DL><DT><A HREF=f>f</A></DL><DT><H1>G</H1><DL><DT>"
              "<A HREF=g>g</A></DL></DL>",
              "+F; f|f; +G; g|g"},
+        Case{"SecondHeadingOfThePage",
+             "<H1>T</H1><DL><DT><A HREF=a>a</A></DL><H1>F</H1><DL><DT><A HREF=f>f</A></DL>",
+             "+Bookmarks; a|a; +F; f|f"},
+        Case{"SecondHeadingAheadOfTheList", "<H1>T</H1><H1>F</H1><DL><DT><A HREF=f>f</A></DL>",
+             "+F; f|f"},
+        Case{"TwoPages",
+             head + "<DL><DT><A HREF=a>a</A></DL>" + head + "<DL><DT><A HREF=b>b</A></DL>",
+             "+Bookmarks; a|a; b|b"},
+        Case{"OtherLists",
+             "<H2>F</H2><UL><LI><A HREF=f>f</A><LI><H3>I</H3><MENU><LI><A HREF=i>i</A></MENU>"
+             "<LI><A HREF=g>g</A></UL><H2>G</H2><OL><LI><A HREF=h>h</A></OL><A HREF=r>r</A>",
+             "+Bookmarks; r|r; +F; f|f; g|g; +F - I; i|i; +G; h|h"},
+        Case{"OtherListsWithoutHeading",
+             "<UL><LI><A HREF=a>a</A></UL><DL><DT><H3>F</H3><DL><DT><UL><LI><A HREF=f>f</A></UL>"
+             "<DT><A HREF=g>g</A></DL><DT><A HREF=r>r</A></DL>",
+             "+Bookmarks; a|a; r|r; +F; f|f; g|g"},
+        Case{"OtherListsUnclosed",
+             "<DL><DT><H3>F</H3><DL><DT><UL><LI><A HREF=f>f</DL><DT><A HREF=r>r</DL></UL>",
+             "+Bookmarks; r|r; +F; f|f"},
+        Case{"OtherListsInDescriptions",
+             "<DL><DT><H3>F</H3><DD><UL><LI>x</UL><DL><DT><A HREF=f>f</A><DD>d<UL><LI>x<DT>"
+             "<A HREF=g>g</A></UL><DT><A HREF=h>h</A></DL></DL>",
+             "+F; f|f; g|g; h|h"},
         Case{"ListWithoutHeading",
              "<DL><DT><H3>F</H3><DL><DL><DT><A HREF=f>f</A></DL></DL><DT><A HREF=r>r</A></DL>",
              "+Bookmarks; r|r; +F; f|f"}),
@@ -104,6 +138,17 @@ INSTANTIATE_TEST_SUITE_P(
              "<H3 TITLE=\"M\"><H3 TITLE=\"F &amp; G\"><A HREF=f TITLE=\"t\"></A></H3>"
              "<A HREF=m TITLE=\"u\"></A></H3>",
              "+M; u|m; +M - F & G; t|f"},
+        Case{"TagsInATitle",
+             "<DL><DT><A HREF=a>The <title> and <textarea> tags</A><DT><A HREF=b>b</A>"
+             "<DT><A HREF=c></title></textarea>c</A></DL>",
+             "+Bookmarks; The and tags|a; b|b; c|c"},
+        Case{"TextThatIsNoPage",
+             "<TEXTAREA><A HREF=x>x</A></TEXTAREA><XMP><A HREF=x>x</A></XMP>"
+             "<IFRAME><A HREF=x>x</A></IFRAME><NOFRAMES><A HREF=x>x</A></NOFRAMES>"
+             "<NOEMBED><A HREF=x>x</A></NOEMBED><A HREF=a>a</A>",
+             "+Bookmarks; a|a"},
+        Case{"ScriptInALink", "<A HREF=a>x<SCRIPT>y</SCRIPT><STYLE>z</STYLE> w</A>",
+             "+Bookmarks; x w|a"},
         Case{"TitleTagUnclosed", "<TITLE>x<DL><DT><A HREF=a>a</A></DL>", "+Bookmarks; a|a"},
         Case{"ScriptAround", "<SCRIPT>'<A HREF=x>x</A>'</SCRIPT><DL><DT><A HREF=a>a</A></DL>",
              "+Bookmarks; a|a"}),
@@ -129,7 +174,38 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"HeadingsIn", "<DL><DT><A HREF=a>a</A><DD><H3>x</H3><DT><A HREF=b>b</A></DL>",
              "+Bookmarks; a|a; b|b"},
         Case{"OfNothing", "<DL><DD><A HREF=a>a</A><HR><DD><A HREF=b>b</A></DL>",
-             "+Bookmarks; a|a; b|b"}),
+             "+Bookmarks; a|a; b|b"},
+        Case{"OfNothingTwice", "<DL><DD><A HREF=a>a</A><DD><A HREF=b>b</A></DL>",
+             "+Bookmarks; a|a; b|b"},
+        Case{"OfNothingAndClosed", "<DL><DD><A HREF=a>a</A></DD><DD><A HREF=b>b</A></DD></DL>",
+             "+Bookmarks; a|a; b|b"},
+        Case{"OfTerms", "<DL><DT>News<DD><A HREF=n>n</A><DT>Sport<DD><A HREF=s>s</A></DL>",
+             "+Bookmarks; n|n; s|s"},
+        Case{"OfAnEntryBehindTerms",
+             "<DL><DT>News<DD><A HREF=n>n</A><DT><A HREF=a>a</A><DD>see <A HREF=x>x</A></DL>",
+             "+Bookmarks; n|n; a|a"},
+        Case{"OfALinkWithoutAddress",
+             "<DL><DT><A HREF=\"\">x</A><DD>see <A HREF=y>y</A><DT><A HREF=a>a</A></DL>",
+             "+Bookmarks; a|a"},
+        Case{"OfASeparator",
+             "<DL><DT><A HREF=\"http://bookmark.placeholder.url/\">---</A><DD>see <A HREF=y>y</A>"
+             "<DT><A HREF=a>a</A></DL>",
+             "+Bookmarks; a|a"},
+        Case{"OfAClosedEntry", "<DL><DT><A HREF=a>a</A></DT><DD>see <A HREF=x>x</A></DD></DL>",
+             "+Bookmarks; a|a"},
+        Case{"EndAtAFolder",
+             "<DL><DT><A HREF=a>a</A><DD>d<H3>F</H3><DL><DT><A HREF=f>f</A></DL>"
+             "<DT><A HREF=r>r</A></DL>",
+             "+Bookmarks; a|a; r|r; +F; f|f"},
+        Case{"HeadingsInThoseOfFolders",
+             "<DL><DT><H3>F</H3><DD>d<H4>x</H4><DL><DT><A HREF=f>f</A></DL></DL>", "+F; f|f"},
+        Case{"HeadingsInEndWithTheDescription",
+             "<DL><DT><A HREF=a>a</A><DD>d<H4>x</H4><DT>y<DL><DT><A HREF=b>b</A></DL></DL>",
+             "+Bookmarks; a|a; b|b"},
+        Case{"EndAtAnEntryWithoutItsTag",
+             "<DL><A HREF=a ADD_DATE=1>a</A><DD>d <A HREF=x>x</A><A HREF=b ADD_DATE=2>b</A>"
+             "<DD>d<A LAST_VISIT=2 HREF=c>c</A><DD>d<A HREF=e LAST_MODIFIED=2>e</A></DL>",
+             "+Bookmarks; a|a; b|b; c|c; e|e"}),
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(
@@ -158,8 +234,21 @@ INSTANTIATE_TEST_SUITE_P(
              "+Bookmarks; http://a/|http://a/; http://b/|http://b/"},
         Case{"TitleInAnAttribute", "<A HREF=a TITLE=\"t &amp; u\"></A><A HREF=b TITLE=t>u</A>",
              "+Bookmarks; t & u|a; u|b"},
+        Case{"TitleInAnAttributeLooksLikeTags", "<A HREF=a TITLE=\" a <b>\n c \"></A>",
+             "+Bookmarks; a <b> c|a"},
+        Case{"TitleOfAPicture",
+             "<A HREF=a TITLE=t><IMG SRC=i ALT=x></A><A HREF=b><IMG ALT=\"\"><IMG ALT=\"y &lt;\">"
+             "</A><A HREF=c TITLE=\" \"><IMG ALT=z></A><A HREF=d>u<IMG ALT=x></A>",
+             "+Bookmarks; t|a; y <|b; z|c; u|d"},
+        Case{"TitleOfBlanks",
+             "<A HREF=a TITLE=t>&nbsp;\n&#8203;</A><A HREF=b>\xC2\xA0&#12288;</A>"
+             "",
+             "+Bookmarks; t|a; b|b"},
         Case{"Feed", "<A FEEDURL=http://f/ >f</A><A FEEDURL=http://f/ HREF=http://g/>g</A>",
              "+Bookmarks; f|http://f/; g|http://g/"},
+        Case{"FeedWithoutAPage", "<A HREF=\"\" FEEDURL=\"http://f/\">f</A>",
+             "+Bookmarks; f|http://f/"},
+        Case{"AnchorInALink", "<A HREF=a>one <A NAME=n>two</A></A>", "+Bookmarks; one two|a"},
         Case{"Separators", "<A HREF=a>a</A><HR><A HREF=b>b</A><HR SIZE=1>", "+Bookmarks; a|a; b|b"},
         Case{"SeparatorsAsLinks",
              "<A HREF=a>a</A><A HREF=\"http://bookmark.placeholder.url/\" "
@@ -167,17 +256,33 @@ INSTANTIATE_TEST_SUITE_P(
              "+Bookmarks; a|a"},
         Case{"Comments", "<!-- <A HREF=x>x</A> --><A HREF=a>a<!-- > -->b</A><!--><A HREF=c>c</A>",
              "+Bookmarks; ab|a; c|c"},
+        Case{"CommentsOldAndNew",
+             "<!-- x -- ><A HREF=a>a</A><!-- y --!><A HREF=b>b</A><!-- z --\n><A HREF=c>c</A>"
+             "<!-- -- - -> <A HREF=x>x</A> -->",
+             "+Bookmarks; a|a; b|b; c|c"},
         Case{"CommentUnclosed", "<A HREF=a>a</A><!-- x ><A HREF=b>b</A>", "+Bookmarks; a|a; b|b"},
         Case{"QuoteUnclosed", "<A HREF=a>a</A><A HREF=\"http://b/>b</A>\n<A HREF=c>c</A>",
              "+Bookmarks; a|a; b|http://b/; c|c"},
+        Case{"QuoteClosedByTheNext",
+             "<A HREF=a>a</A><A HREF=\"http://b/>b</A>\n<A HREF=\"c\">c</A><A HREF=d>d</A>",
+             "+Bookmarks; a|a; c|http://b/>b</A><A HREF=; d|d"},
+        Case{"QuotesInAScript",
+             "<A HREF=\"javascript:alert(\"hi\")\">a</A>"
+             "<A HREF=\"JavaScript:if(a>1)f(\"b>c\", \"\")\"ADD_DATE=\"1\">b</A>"
+             "<A HREF='javascript:g('x')' ADD_DATE='1'>c</A><A HREF=\"javascript:h('x')\"/>d</A>",
+             "+Bookmarks; a|javascript:alert(\"hi\"); b|JavaScript:if(a>1)f(\"b>c\", \"\"); "
+             "c|javascript:g('x'); d|javascript:h('x')"},
+        Case{"QuoteOfAScriptUnclosed", "<A HREF=\"javascript:f(\"x)\n<A HREF=b>b</A>",
+             "+Bookmarks; b|javascript:f("},
         Case{"UnknownTags", "<DL><font><D><A HREF=a>a</A></font></DL>", "+Bookmarks; a|a"}),
     nameOf);
 
 TEST(BookmarkPage, LinksWithoutAnAddressAreCounted) {
     const Imported imported = importPage(
-        "<A NAME=x>x</A><A HREF=>y</A><A HREF=\"\">z</A><A HREF=\" &#32; \">w</A><A HREF=a>a</A>");
+        "<A>x</A><A HREF=>y</A><A HREF=\"\">z</A><A HREF=\" &#32; \">w</A><A HREF=a>a</A>"
+        "<H3><A HREF=\"\">F</A></H3><A NAME=n>n</A><A ID=n>n</A>");
     EXPECT_THAT(imported.events, ElementsAre("+Bookmarks", "a|a"));
-    EXPECT_EQ(imported.counts.withoutAddress, 4U);
+    EXPECT_EQ(imported.counts.withoutAddress, 5U);
 }
 
 TEST(BookmarkPage, WhatCutsALineOfTheStackFileNeverComesThrough) {
@@ -223,9 +328,49 @@ TEST(BookmarkPage, WhatIsNeverClosedIsLookedForOnce) {
     }
 }
 
+// The names of folders in folders are as long as all of them together; only so much is handed over.
+TEST(BookmarkPage, NamesOfGroupsEndSomewhere) {
+    std::string page;
+    for (int level = 0; level < 5000; ++level) page += "<DL><DT><H3>\xC3\xA4</H3><A HREF=a>a</A>";
+    const Imported imported = importPage(page);
+    EXPECT_EQ(imported.counts.links, 5000U);
+    std::size_t size = 0;
+    for (const std::string& event : imported.events) size = std::max(size, event.size());
+    EXPECT_LE(size, 4096U);
+    EXPECT_GE(size, 2000U);
+}
+
+TEST(BookmarkPage, TheNameOfOneFolderEndsSomewhere) {
+    std::string page = "<DL><DT><H3>x";
+    for (int i = 0; i < 500000; ++i) page += "\xC3\xA4";
+    page += "</H3><DL>";
+    for (int i = 0; i < 1000; ++i) page += "<DT><H3>F</H3><DL><A HREF=a>a</A></DL>";
+    const Imported imported = importPage(page);
+    EXPECT_EQ(imported.counts.groups, 1000U);
+    EXPECT_EQ(imported.events.at(0), "+x" + std::string(999, '\xE4') + " - F");
+}
+
+TEST(BookmarkPage, ATagMayHaveAnyNumberOfAttributes) {
+    std::string page = "<A";
+    for (int i = 0; i < 1000000; ++i) page += " x";
+    EXPECT_EQ(eventsOf(page + " HREF=a>a</A>"), "+Bookmarks; a|a");
+}
+
+// Of each kind of end that is missing, one far off: it is not looked for at each tag.
+TEST(BookmarkPage, AnEndThatIsFarAwayIsLookedForOnce) {
+    for (const std::string& open :
+         {"<title>"s, "<script>"s, "<textarea>"s, "<h3><a href=a>"s, "<h3> <b>"s,
+          "<a href=\"javascript:\"x"s, "<ul>"s, "<!-- -- "s}) {
+        std::string page;
+        for (int i = 0; i < 100000; ++i) page += open;
+        EXPECT_EQ(importPage(page + "<dl><a href=b>b</a><dt>").events.back(), "b|b") << open;
+    }
+}
+
 TEST(BookmarkPage, ZeroBytesAreBlanks) {
-    const Imported imported = importPage("<A\0HREF=a\0>x\0y</A>\0<A HREF=b>\0</A>"s);
-    EXPECT_THAT(imported.events, ElementsAre("+Bookmarks", "x y|a", "b|b"));
+    const Imported imported =
+        importPage("<A\0HREF=a\0>x\0y</A>\0<A HREF=b>\0</A><A HREF=\"\0c\0d\0\">c</A>"s);
+    EXPECT_THAT(imported.events, ElementsAre("+Bookmarks", "x y|a", "b|b", "c|c%00d"));
 }
 
 TEST(BookmarkPage, LineEndsOfEveryKindAreTheSame) {
@@ -270,11 +415,59 @@ TEST(BookmarkPage, AStoreThatIsFullIsAskedNoMore) {
     EXPECT_EQ(counts.withoutAddress, 1U);
 }
 
+// Takes groups, but no link.
+class FullSink : public RecordingSink {
+public:
+    bool BungURL(const std::string&, const std::string&) override { return false; }
+};
+
+TEST(BookmarkPage, AGroupOfWhichNoLinkFoundRoomIsNotCounted) {
+    MemoryFiles files;
+    files.file("/a", "<A HREF=1>1</A><A HREF=2>2</A>");
+    FullSink sink;
+    const ImportCounts counts = importBookmarkFile(files, "/a", {}, sink);
+    EXPECT_EQ(counts.groups, 0U);
+    EXPECT_EQ(counts.withoutRoom, 2U);
+}
+
 TEST(BookmarkPage, AFileThatCantBeReadIsCounted) {
     MemoryFiles files;
     RecordingSink sink;
     EXPECT_EQ(importBookmarkFile(files, "/none", {}, sink).unreadable, 1U);
     EXPECT_THAT(sink.events, IsEmpty());
+}
+
+// A file that gives as many bytes as are asked for, up to its size.
+class LargeFile : public MemoryFiles {
+public:
+    explicit LargeFile(std::size_t size) : size_(size) {}
+
+    bool read(const std::string&, std::size_t limit, std::string& bytes) override {
+        asked = limit;
+        bytes.assign(std::min(limit, size_), ' ');
+        bytes.replace(0, 14, "<A HREF=a>a</A>", 14);
+        return true;
+    }
+
+    std::size_t asked = 0;
+
+private:
+    std::size_t size_;
+};
+
+TEST(BookmarkPage, AHundredMegabytesAreRead) {
+    LargeFile files(100 * 1024 * 1024);
+    RecordingSink sink;
+    EXPECT_EQ(importBookmarkFile(files, "/page", {}, sink).links, 1U);
+}
+
+TEST(BookmarkPage, AFileThatIsTooLongForAPageIsNotRead) {
+    LargeFile files(std::numeric_limits<std::size_t>::max());
+    RecordingSink sink;
+    const ImportCounts counts = importBookmarkFile(files, "/disk image", {}, sink);
+    EXPECT_LE(files.asked, 1024U * 1024 * 1024);
+    EXPECT_EQ(counts.links, 0U);
+    EXPECT_EQ(counts.unreadable, 1U);
 }
 
 }  // namespace

@@ -65,9 +65,10 @@ TEST_F(Favorites, EndingsAreKnownInAnyCase) {
     shortcut("/d.txt", "d");
     shortcut("/e.url.bak", "e");
     shortcut("/.url", "f");
+    shortcut("/url", "h");
     shortcut("/v1.0.url", "g");
     importAll();
-    EXPECT_THAT(sink.events, ElementsAre("+Favorites", "a|a", "b|b", "c|c", "v1.0|g"));
+    EXPECT_THAT(sink.events, ElementsAre("+Favorites", "f|f", "a|a", "b|b", "c|c", "v1.0|g"));
 }
 
 TEST_F(Favorites, WhatGivesNoLinkIsCounted) {
@@ -110,6 +111,15 @@ TEST_F(Favorites, LinksThatLoopEndAndEachFolderComesInOnce) {
     EXPECT_THAT(sink.events, ElementsAre("+A", "a|a", "+A - B", "b|b"));
     for (const auto& [path, times] : files.listed) EXPECT_EQ(times, 1) << path;
     EXPECT_EQ(counts.unreadable, 0U);
+}
+
+TEST_F(Favorites, AFolderComesInUnderItsOwnNameRatherThanALinks) {
+    files.link("/A/Link", "/B");
+    shortcut("/A/a.url", "a");
+    shortcut("/B/C/c.url", "c");
+    shortcut("/B/b.url", "b");
+    importAll();
+    EXPECT_THAT(sink.events, ElementsAre("+A", "a|a", "+B", "b|b", "+B - C", "c|c"));
 }
 
 TEST_F(Favorites, AThousandLevelsAreWalked) {

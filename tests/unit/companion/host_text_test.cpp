@@ -64,6 +64,10 @@ INSTANTIATE_TEST_SUITE_P(
              "b",
              "a\xA0"
              "b"},
+        Case{"SoftHyphen", "a\xC2\xAD", "a\xAD"},
+        Case{"Apostrophes", "Hawai\xCA\xBBi \xCA\xBF\xCA\xBE\xCA\xBD\xCB\x8A",
+             "Hawai'i \x27\x27\x27\x27"},
+        Case{"GreekMu", "\xCE\xBCs", "\xB5s"}, Case{"NearerOfTwoMarks", "\xE1\xBB\x87", "\xEA"},
         Case{"BrokenBytes",
              "a\xFF"
              "b\xC3",
@@ -76,6 +80,63 @@ TEST(HostTitle, EveryCodePageHasItsOwnLetters) {
     EXPECT_EQ(HostText(1251).title(text), "L \xC6 ? e");
     EXPECT_EQ(HostText(1253).title(text), "L ? \xE1 e");
     EXPECT_EQ(HostText(65001).title(text), text);
+}
+
+TEST(HostTitle, WhatACodePageHoldsIsKeptUnseenOrNot) {
+    EXPECT_EQ(HostText(1256).title("\xD9\x85\xDB\x8C\xE2\x80\x8C\xD8\xAE"), "\xE3\xED\x9D\xCE");
+    EXPECT_EQ(HostText(1255).title("\xD7\x90\xE2\x80\x8F!"), "\xE0\xFE!");
+    EXPECT_EQ(HostText(1252).title("a\xE2\x80\x8C\xE2\x80\x8F"
+                                   "b"),
+              "ab");
+    const std::string family = "\xF0\x9F\x91\xA8\xE2\x80\x8D\xF0\x9F\x91\xA9";
+    const std::string heart = "\xE2\x9D\xA4\xEF\xB8\x8F";
+    EXPECT_EQ(HostText(65001).title(family + heart), family + heart);
+}
+
+TEST(HostTitle, WhatBreaksALineIsABlankInEveryCodePage) {
+    EXPECT_EQ(HostText(65001).title("\xEF\xBB\xBF"
+                                    "a\xE2\x80\xA8"
+                                    "b\xC2\x85"
+                                    "c"),
+              "a b c");
+}
+
+TEST(HostTitle, LettersAndMarksStandApartWhereTheCodePageHasThemSo) {
+    const HostText vietnamese(1258);
+    EXPECT_EQ(vietnamese.title("Ti\xE1\xBA\xBFng"), "Ti\xEA\xECng");
+    EXPECT_EQ(vietnamese.title("Ti\xC3\xAA\xCC\x81ng"), "Ti\xEA\xECng");
+    EXPECT_EQ(vietnamese.title("Vi\xE1\xBB\x87t"), "Vi\xEA\xF2t");
+    EXPECT_EQ(vietnamese.title("Vie\xCC\xA3\xCC\x82t"), "Vi\xEA\xF2t");
+    EXPECT_EQ(vietnamese.title("\xE1\xBA\xA1 \xC3\xAD"), "a\xF2 \xED");
+}
+
+TEST(HostTitle, ASoftHyphenThatTheCodePageDoesNotHoldGoes) {
+    EXPECT_EQ(HostText(866).title("a\xC2\xAD"
+                                  "b"),
+              "ab");
+    EXPECT_EQ(HostText(1251).title("it\xC2\xB4s"), "it's");
+}
+
+// A code page of everything but what a Mac writes in parts.
+bool onlyWhole(unsigned codePage, std::u16string_view text, std::string& bytes) {
+    const char16_t character = text.front();
+    const bool part = character == 0x3099 || (character >= 0x1100 && character < 0x1200);
+    if (codePage != 932 || part) return false;
+    bytes += character == u'\u304C' ? "ga" : character == u'\uD55C' ? "han" : "*";
+    return true;
+}
+
+TEST(HostTitle, LettersInPartsBecomeWhole) {
+    const HostText host(932, {nullptr, onlyWhole});
+    EXPECT_EQ(host.title("\xE3\x81\x8B\xE3\x82\x99"), "ga");
+    EXPECT_EQ(host.title("\xE1\x84\x92\xE1\x85\xA1\xE1\x86\xAB\xE1\x84\x92\xE1\x85\xA1x"), "han*x");
+    EXPECT_EQ(host.title("\xE1\x84\x92x"), "?x");
+}
+
+TEST(HostTitle, ManyMarksCostNoMoreThanManyLetters) {
+    std::string text = "a";
+    for (int i = 0; i < 2000000; ++i) text += "\xCC\x81";
+    EXPECT_EQ(HostText(1252).title(text), "\xE1");
 }
 
 TEST(HostTitle, ACodePageThatNobodyKnowsIsTakenForTheWesternOne) {

@@ -16,7 +16,7 @@ TEST(ImportReport, SaysWhatWasSkipped) {
               "2 links in 1 group were imported. 1 link without an address was skipped. "
               "1 file or folder could not be read. 1 link was left out: the list is full.");
     EXPECT_EQ(reportOf({0, 0, 2, 3, 4}),
-              "No links were found. 2 links without an address were skipped. "
+              "No links were imported. 2 links without an address were skipped. "
               "3 files or folders could not be read. 4 links were left out: the list is full.");
 }
 

@@ -38,12 +38,14 @@ public:
         if (locked_.contains(real)) return false;
         // A disk has its own order: here the last name comes first.
         for (auto each = files_.rbegin(); each != files_.rend(); ++each) {
-            add(real, each->first, false, entries);
+            add(real, each->first, {{}, false}, entries);
         }
         for (auto each = folders_.rbegin(); each != folders_.rend(); ++each) {
-            add(real, *each, true, entries);
+            add(real, *each, {{}, true}, entries);
         }
-        for (const auto& [at, target] : links_) add(real, at, true, entries);
+        for (const auto& [at, target] : links_) {
+            add(real, at, {{}, true, true}, entries);
+        }
         return true;
     }
     std::optional<std::string> identity(const std::string& path) override {
@@ -65,11 +67,12 @@ public:
     std::map<std::string, int> listed;
 
 private:
-    static void add(const std::string& path, const std::string& each, bool isFolder,
+    static void add(const std::string& path, const std::string& each, FolderEntry entry,
                     std::vector<FolderEntry>& entries) {
         const std::size_t slash = each.rfind('/');
         const std::string outer = slash == 0 ? "/" : each.substr(0, slash);
-        if (each != "/" && outer == path) entries.push_back({each.substr(slash + 1), isFolder});
+        entry.name = each.substr(slash + 1);
+        if (each != "/" && outer == path) entries.push_back(entry);
     }
 
     // Follows the links on the way, the last name's included.

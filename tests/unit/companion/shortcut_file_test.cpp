@@ -51,11 +51,23 @@ INSTANTIATE_TEST_SUITE_P(
              "http://a/x"},
         Case{"BaseAlone", "[DEFAULT]\nBASEURL=http://base/\n", "http://base/"},
         Case{"FrameAlone", "[DOC#1]\nBASEURL=http://frame/\n", ""},
+        Case{"AnsiSectionDiffers",
+             "[InternetShortcut.A]\nURL=http://ansi/\n[InternetShortcut]\nURL=http://a/\n",
+             "http://a/"},
+        Case{"PinnedSite",
+             "[{000214A0-0000-0000-C000-000000000046}]\nProp3=19,2\n"
+             "[{A7AF692E-098D-4C08-A225-D433CA835ED0}]\nProp5=3,0\nURL=http://no/\n"
+             "[InternetShortcut]\nIDList=\nURL=http://a/\n[{9F4C2855-9F79-4B39-A8D0-"
+             "E1D42DE1D5F3}]\nProp5=8,Microsoft.Website.1\n",
+             "http://a/"},
         Case{"AnsiSectionAlone", "[InternetShortcut.A]\nURL=http://a/\n", "http://a/"},
         Case{"WideSection",
              "[InternetShortcut]\nURL=http://b?r/\n[InternetShortcut.A]\nURL=http://b?r/\n"
              "[InternetShortcut.W]\nURL=http://b+AOQ-r/\n",
              "http://b\xC3\xA4r/"},
+        Case{"WideSectionOfBytesAndUtf7",
+             "[InternetShortcut]\nURL=http://?/\n[InternetShortcut.W]\nURL=http://\xE4+AOQ-/\n",
+             "http://\xC3\xA4\xC3\xA4/"},
         Case{"WideSectionFirst",
              "[InternetShortcut.W]\nURL=http://b+AOQ-r/\n[InternetShortcut]\nURL=http://b?r/\n",
              "http://b\xC3\xA4r/"},
@@ -98,6 +110,8 @@ INSTANTIATE_TEST_SUITE_P(
     Bytes, ShortcutFile,
     testing::Values(
         Case{"Utf8Mark", "\xEF\xBB\xBF" + usual, address},
+        Case{"Utf8MarkTwice", "\xEF\xBB\xBF\xEF\xBB\xBF[DEFAULT]\nBASEURL=x\n" + usual, address},
+        Case{"OldEndOfText", usual + "\x1A", address},
         Case{"Utf16", "\xFF\xFE" + utf16(usual, false), address},
         Case{"Utf16BigEndian", "\xFE\xFF" + utf16(usual, true), address},
         Case{"Utf16WithoutMark", utf16(usual, false), address},

@@ -9,10 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "companion/import/host_text.h"
 #include "companion/import/import.h"
 #include "companion/import/windows/platform_code_pages.h"
 #include "companion/import/windows/wide_text.h"
 #include "tests/unit/companion/recording_sink.h"
+
+#include <windows.h>
 
 namespace magpie {
 namespace {
@@ -84,6 +87,56 @@ TEST_F(DiskTest, AFolderIsTheSameByWhicheverNameItIsReached) {
     EXPECT_EQ(disk.identity(path), disk.identity(disk.inFolder(utf8Root(), "A")));
     EXPECT_NE(disk.identity(path), disk.identity(utf8Root()));
     EXPECT_EQ(disk.identity(path + "nothing"), std::nullopt);
+}
+
+TEST_F(DiskTest, PathsOfEveryKindAreTakenAsTheyAre) {
+    EXPECT_EQ(platformPath("C:\\a"), L"\\\\?\\C:\\a");
+    EXPECT_EQ(platformPath("\\\\server\\share\\a"), L"\\\\?\\UNC\\server\\share\\a");
+    EXPECT_EQ(platformPath("\\\\?\\C:\\a"), L"\\\\?\\C:\\a");
+    EXPECT_EQ(platformPath("a"), L"a");
+}
+
+TEST_F(DiskTest, AFolderThatIsNotThereIsCounted) {
+    for (const std::string& path : {utf8Root() + "\\none", std::string()}) {
+        RecordingSink none;
+        EXPECT_EQ(
+            importFavorites(disk, path, {codePageWestern, platformCodePages()}, none).unreadable,
+            1U)
+            << path;
+    }
+}
+
+// Held open by a program that shares it with nobody.
+TEST_F(DiskTest, AFileThatAnotherProgramHoldsIsCounted) {
+    write("held.url", "[InternetShortcut]\r\nURL=http://held/\r\n");
+    write("free.url", "[InternetShortcut]\r\nURL=http://free/\r\n");
+    const std::filesystem::path held = root / "held.url";
+    HANDLE const file =
+        CreateFileW(held.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    const ImportCounts counts = importAll();
+    CloseHandle(file);
+    EXPECT_THAT(sink.events, ElementsAre("+Favorites", "free|http://free/"));
+    EXPECT_EQ(counts.unreadable, 1U);
+}
+
+TEST_F(DiskTest, TheShiftedCodePagesAreReadThroughThePlatform) {
+    write("jis.htm", "<DL><DT><A HREF=\"http://j/\">\x1B$BF|K\\\x1B(B</A></DL>");
+    write("utf7.htm", "<META CHARSET=utf-7><DL><DT><A HREF=\"http://u/\">+AOQ-b</A></DL>");
+    for (const char* const name : {"jis.htm", "utf7.htm"}) {
+        importBookmarkFile(disk, disk.inFolder(utf8Root(), name), {932, platformCodePages()}, sink);
+    }
+    EXPECT_THAT(sink.events, ElementsAre("+Bookmarks", "\x93\xFA\x96\x7B|http://j/", "+Bookmarks",
+                                         "ab|http://u/"));
+}
+
+TEST_F(DiskTest, TitlesComeAsNearAsTheCodePagesOfThePlatformAllow) {
+    const CodePageCalls calls = platformCodePages();
+    EXPECT_EQ(HostText(932, calls).title("\xE3\x81\x8B\xE3\x82\x99\xC3\xA9\xC2\xAD"),
+              "\x82\xAA"
+              "e");
+    EXPECT_EQ(HostText(949, calls).title("\xE1\x84\x92\xE1\x85\xA1\xE1\x86\xAB"), "\xC7\xD1");
+    EXPECT_EQ(HostText(874, calls).title("\xE0\xB8\x81\xE2\x80\x8B"), "\xA1");
 }
 
 TEST_F(DiskTest, WhatIsNotThereIsNeitherListedNorRead) {
