@@ -86,6 +86,17 @@ TEST_F(SendUrl, ARunningInternetExplorerIsShownAndThenSentThere) {
     EXPECT_EQ(driver::liveInSystem().automationObjects, 0);
 }
 
+TEST_F(SendUrl, ItIsSentToWhateverStandsInTheRecord) {
+    open(0);
+    auto& browser = openInternetExplorer();
+    const std::string addresses[] = {"", "not an address", std::string(2000, 'x')};
+    for (const std::string& address : addresses) {
+        browser.done.clear();
+        visit(address);
+        EXPECT_THAT(browser.done, ElementsAre("visible", "navigate " + address));
+    }
+}
+
 TEST_F(SendUrl, WithoutOneItIsStarted) {
     open(0);
     visit("http://a/");
