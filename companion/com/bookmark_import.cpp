@@ -151,15 +151,9 @@ private:
 
     // A file is whatever the user has chosen: what it holds may be more than memory does.
     template <class Reading>
-    HRESULT import(HWND owner, Reading reading) noexcept {
-        try {
-            tell(owner, reportOf(countsOf(reading)));
-            return S_OK;
-        } catch (const std::bad_alloc&) {
-            return E_OUTOFMEMORY;
-        } catch (const std::length_error&) {
-            return E_OUTOFMEMORY;
-        }
+    HRESULT import(HWND owner, Reading reading) {
+        tell(owner, reportOf(countsOf(reading)));
+        return S_OK;
     }
 
     template <class Reading>

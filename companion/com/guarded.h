@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <new>
+#include <stdexcept>
 
 #include "platform/runtime/failure.h"
 
@@ -22,6 +23,8 @@ HRESULT guarded(Routine&& routine) noexcept {
     } catch (const Failure& failed) {
         return static_cast<HRESULT>(0x800A0000u | static_cast<std::uint32_t>(failed.number));
     } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (const std::length_error&) {  // a text that is larger than any may be
         return E_OUTOFMEMORY;
     }
 }
