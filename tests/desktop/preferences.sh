@@ -80,6 +80,14 @@ install_browser Opera.EXE
 open_preferences
 expect "a browser on the computer is named" page_shows "$(windows_path "$folder/browsers/Opera.EXE")"
 expect "and others are not found" page_shows 'not found'
+next_page
+next_page
+place_of 'Th&e list fills the whole main window'
+xdotool mousemove $((box_left + 20)) $((box_top + 8))
+tip_says() { [[ $(reads tip) == "$1" ]]; }
+expect "the mouse over what cannot be changed gets to see its tip" wait_for 5 \
+    tip_says 'Shown here only: the Escape key in the main window changes it'
+press ctrl+shift+Tab ctrl+shift+Tab
 change_everything
 press Escape
 expect "Escape closes the dialog" wait_for 5 no_sheet
