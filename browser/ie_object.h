@@ -9,7 +9,8 @@
 namespace magpie {
 
 // The automation object of the topmost window of Internet Explorer's or the shell's kind, if it is
-// Internet Explorer's; no window below it is tried. Whatever fails on the way means that there is none.
+// Internet Explorer's; no window below it is tried. Whatever fails on the way means that there is
+// none.
 std::optional<AutomationObject> findIEObject();
 
 // Sends a running Internet Explorer to the address. Starts one where none is running, or where

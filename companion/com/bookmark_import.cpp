@@ -1,7 +1,5 @@
 #include "companion/com/bookmark_import.h"
 
-#include <new>
-#include <stdexcept>
 #include <string>
 
 #include "Pienest.h"

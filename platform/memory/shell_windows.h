@@ -18,8 +18,8 @@ struct ShellWindow {
     std::string locationName{};
     std::string locationUrl{};
 
-    bool away = false;                // the collection counts it and has nothing to give for it
-    std::string fails{};              // the member that fails, as one that its program denies
+    bool away = false;    // the collection counts it and has nothing to give for it
+    std::string fails{};  // the member that fails, as one that its program denies
     std::function<void(const std::string& member)> underRead{};  // what happens while it is read
     std::vector<std::string> done{};  // "visible", "hidden", "navigate ADDRESS", so far
 };
