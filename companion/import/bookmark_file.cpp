@@ -69,6 +69,7 @@ private:
 bool isMostlyUtf8(const BookmarkPage& page) {
     Utf8Count sum;
     const auto add = [&sum](std::string_view text) {
+        if (isAscii(text)) return;
         const Utf8Count count = countUtf8(text);
         sum.letters += count.letters;
         sum.broken += count.broken;

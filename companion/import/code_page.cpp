@@ -46,7 +46,6 @@ constexpr WideLabel wideLabels[] = {
     {"hz", 52936},
     {"big5", 950},
     {"big5hkscs", 950},
-    {"xbig5", 950},
     {"cnbig5", 950},
     {"csbig5", 950},
     {"cp950", 950},

@@ -96,9 +96,36 @@ char32_t plainOfFace(char32_t character) {
     return 0;
 }
 
+bool isPlain(char byte) {
+    return byte >= ' ' && byte < '\x7F';
+}
+
 bool isPlain(std::string_view text) {
     if (text.empty() || text.front() == ' ' || text.back() == ' ') return false;
-    return std::ranges::all_of(text, [](char byte) { return byte >= ' ' && byte < '\x7F'; });
+    return std::ranges::all_of(text, [](char byte) { return isPlain(byte); });
+}
+
+// How many bytes at the beginning are printable ASCII, without the last one where a mark may
+// follow.
+std::size_t plainSize(std::string_view text) {
+    std::size_t size = 0;
+    while (size < text.size() && isPlain(text[size])) ++size;
+    const bool marked =
+        size != 0 && size < text.size() && static_cast<unsigned char>(text[size]) >= 0x80;
+    return marked ? size - 1 : size;
+}
+
+// The next character, made one with the marks behind it as far as that is a letter.
+char32_t nextWithMarks(std::string_view utf8, std::size_t& at) {
+    char32_t character = nextUtf8(utf8, at);
+    while (at < utf8.size() && static_cast<unsigned char>(utf8[at]) >= 0x80) {
+        std::size_t behind = at;
+        const char32_t whole = composed(character, nextUtf8(utf8, behind));
+        if (whole == 0) break;
+        character = whole;
+        at = behind;
+    }
+    return character;
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -148,20 +175,16 @@ HostText::HostText(unsigned codePage, CodePageCalls calls) : writer_(codePage, c
 std::string HostText::title(std::string_view utf8) const {
     if (isPlain(utf8)) return std::string(utf8);
     std::string text;
-    std::size_t at = 0;
-    while (at < utf8.size()) {
-        char32_t character = nextUtf8(utf8, at);
-        while (at < utf8.size()) {
-            std::size_t behind = at;
-            const char32_t mark = nextUtf8(utf8, behind);
-            const char32_t whole = composed(character, mark);
-            if (whole == 0) break;
-            character = whole;
-            at = behind;
-        }
-        append(text, character, 0);
+    text.reserve(utf8.size());
+    for (std::size_t at = 0; at < utf8.size();) {
+        const std::size_t plain = plainSize(utf8.substr(at));
+        text += utf8.substr(at, plain);
+        at += plain;
+        if (at < utf8.size()) append(text, nextWithMarks(utf8, at), 0);
     }
-    return std::string(trimmed(text));
+    const std::string_view kept = trimmed(text);
+    if (kept.size() != text.size()) text = std::string(kept);
+    return text;
 }
 
 std::string HostText::groupName(std::string_view utf8) const {

@@ -51,13 +51,12 @@ bool sameTagName(std::string_view name, std::string_view lower) {
                       [](char a, char b) { return lowerCase(a) == b; });
 }
 
-bool HtmlTag::is(std::string_view lower) const {
-    return sameTagName(name, lower);
-}
-
 void HtmlAttributes::add(std::string_view name, std::string_view value) {
+    if (name.empty()) return;
+    const char first = lowerCase(name.front());
     for (std::size_t i = 0; i < count; ++i) {
-        if (!sameTagName(name, attributeNames[i])) continue;
+        const std::string_view known = attributeNames[i];
+        if (known.front() != first || !sameTagName(name, known)) continue;
         const std::uint32_t bit = 1U << i;
         if ((present_ & bit) == 0) values_[i] = value;
         present_ |= bit;

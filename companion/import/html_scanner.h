@@ -47,6 +47,9 @@ private:
     std::array<std::string_view, count> values_;
 };
 
+// Compares with a name in small letters.
+[[nodiscard]] bool sameTagName(std::string_view name, std::string_view lower);
+
 struct HtmlTag {
     std::string_view name;  // as it stands there; empty for a comment or a declaration
     bool closing = false;
@@ -56,11 +59,10 @@ struct HtmlTag {
     HtmlAttributes attributes;
 
     // `lower` is a name in small letters.
-    [[nodiscard]] bool is(std::string_view lower) const;
+    [[nodiscard]] bool is(std::string_view lower) const {
+        return name.size() == lower.size() && sameTagName(name, lower);
+    }
 };
-
-// Compares with a name in small letters.
-[[nodiscard]] bool sameTagName(std::string_view name, std::string_view lower);
 
 class HtmlScanner {
 public:

@@ -111,16 +111,25 @@ bool isBlank(char byte) {
     return byte == ' ' || (byte >= '\t' && byte <= '\r');
 }
 
-// Appends text with its blanks run together; `blank` is whether one is owed.
-void appendFolded(std::string& result, std::string_view text, bool& blank) {
-    for (const char byte : text) {
-        if (isBlank(byte)) {
+// Appends text with its blanks run together; `begin` is where all of it begins, `blank` whether a
+// blank is owed.
+void appendFolded(std::string& result, std::size_t begin, std::string_view text, bool& blank) {
+    for (std::size_t at = 0; at < text.size();) {
+        if (isBlank(text[at])) {
             blank = true;
+            ++at;
             continue;
         }
-        if (blank && !result.empty()) result += ' ';
-        blank = false;
-        result += byte;
+        // A single blank inside is as it shall be.
+        std::size_t end = at + 1;
+        while (end < text.size() &&
+               (!isBlank(text[end]) || (text[end] == ' ' && !isBlank(text[end - 1])))) {
+            ++end;
+        }
+        if (blank && result.size() != begin) result += ' ';
+        blank = isBlank(text[end - 1]);
+        result += text.substr(at, end - at - (blank ? 1 : 0));
+        at = end;
     }
 }
 
@@ -167,31 +176,44 @@ void appendWithoutEntities(std::string& result, std::string_view text, HtmlPlace
     }
 }
 
+namespace {
+
+// Those from a place on.
+void replaceEntities(std::string& text, std::size_t begin) {
+    begin = text.find('&', begin);
+    if (begin == std::string::npos) return;
+    const std::string from = text.substr(begin);
+    text.resize(begin);
+    appendWithoutEntities(text, from, HtmlPlace::text);
+}
+
+}  // namespace
+
 void appendReadable(std::string& result, std::string_view html) {
     if (isPlain(html)) {
         result += html;
         return;
     }
-    std::string folded;
+    const std::size_t begin = result.size();
     bool blank = false;
     HtmlScanner scanner(html);
     std::size_t from = 0;
     bool shown = true;
     while (const HtmlTag* const tag = scanner.next()) {
-        if (shown) appendFolded(folded, html.substr(from, tag->begin - from), blank);
+        if (shown) appendFolded(result, begin, html.substr(from, tag->begin - from), blank);
         blank = blank || breaksLine(*tag);
         from = tag->end;
         shown = !skipHidden(scanner, *tag);
     }
-    appendFolded(folded, html.substr(from), blank);
-    appendWithoutEntities(result, folded, HtmlPlace::text);
+    appendFolded(result, begin, html.substr(from), blank);
+    replaceEntities(result, begin);
 }
 
 void appendReadableValue(std::string& result, std::string_view value) {
-    std::string folded;
+    const std::size_t begin = result.size();
     bool blank = false;
-    appendFolded(folded, value, blank);
-    appendWithoutEntities(result, folded, HtmlPlace::text);
+    appendFolded(result, begin, value, blank);
+    replaceEntities(result, begin);
 }
 
 }  // namespace magpie

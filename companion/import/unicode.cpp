@@ -162,16 +162,19 @@ bool isAscii(std::string_view text) {
 }
 
 bool isUtf8(std::string_view text) {
-    return countUtf8(text).broken == 0;
+    return isAscii(text) || countUtf8(text).broken == 0;
 }
 
 Utf8Count countUtf8(std::string_view text) {
     Utf8Count count;
-    if (isAscii(text)) return count;
     for (std::size_t at = 0; at < text.size();) {
+        if (byteAt(text, at) < 0x80) {
+            ++at;
+            continue;
+        }
         const Utf8Character read = readUtf8(text, at);
         if (!read.valid) ++count.broken;
-        if (read.length > 1 && read.valid) ++count.letters;
+        if (read.valid) ++count.letters;
         at += read.length;
     }
     return count;

@@ -11,6 +11,7 @@
 #include <regex>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "companion/import/import.h"
@@ -168,11 +169,15 @@ void expectSame(std::vector<Group> found, const std::vector<Group>& expected) {
 std::filesystem::path treeOf(const std::filesystem::path& page) {
     std::string name = page.stem().string();
     name = std::regex_replace(name, std::regex("_(formatted|unindented)$"), "");
-    const std::filesystem::path beside = page.parent_path() / (name + ".json");
-    const std::filesystem::path apart =
-        page.parent_path() / "expected" / ("snapshot." + name + ".json");
+    name += ".json";
+    const std::filesystem::path beside = page.parent_path() / name;
     if (std::filesystem::exists(beside)) return beside;
-    return std::filesystem::exists(apart) ? apart : std::filesystem::path();
+    std::error_code none;
+    for (const auto& each :
+         std::filesystem::directory_iterator(page.parent_path() / "expected", none)) {
+        if (each.path().filename().string().ends_with("." + name)) return each.path();
+    }
+    return {};
 }
 
 TEST_F(BookmarkCorpus, EveryBookmarkFileGivesTheTreeThatItsOriginExpects) {

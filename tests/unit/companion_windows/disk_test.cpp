@@ -15,8 +15,6 @@
 #include "companion/import/windows/wide_text.h"
 #include "tests/unit/companion/recording_sink.h"
 
-#include <windows.h>
-
 namespace magpie {
 namespace {
 
@@ -111,11 +109,11 @@ TEST_F(DiskTest, AFileThatAnotherProgramHoldsIsCounted) {
     write("held.url", "[InternetShortcut]\r\nURL=http://held/\r\n");
     write("free.url", "[InternetShortcut]\r\nURL=http://free/\r\n");
     const std::filesystem::path held = root / "held.url";
-    HANDLE const file =
-        CreateFileW(held.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    constexpr int denyAll = 0x10;
+    std::FILE* const file = _wfsopen(held.c_str(), L"rb", denyAll);
+    ASSERT_NE(file, nullptr);
     const ImportCounts counts = importAll();
-    CloseHandle(file);
+    std::fclose(file);
     EXPECT_THAT(sink.events, ElementsAre("+Favorites", "free|http://free/"));
     EXPECT_EQ(counts.unreadable, 1U);
 }
