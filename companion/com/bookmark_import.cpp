@@ -12,6 +12,7 @@
 #include "companion/import/windows/platform_code_pages.h"
 #include "companion/import/windows/wide_text.h"
 #include "companion/resource_ids.h"
+#include "platform/runtime/failure.h"
 
 // The SDK's base comes first.
 // clang-format off
@@ -46,18 +47,28 @@ private:
     BSTR text_ = nullptr;
 };
 
+// The host has let go of the import: there is nobody left to tell of it.
+struct Abandoned {};
+
+// True when the host had room for it.
+bool taken(HRESULT result) {
+    constexpr auto objectNotSet = static_cast<HRESULT>(0x800A0000u | failure::objectNotSet);
+    if (result == CONNECT_E_NOCONNECTION || result == objectNotSet) throw Abandoned{};
+    return SUCCEEDED(result);
+}
+
 class EventSink final : public ImportSink {
 public:
     explicit EventSink(EventSource& source) : source_(source) {}
 
     bool NewGroup(const std::string& name) override {
         const HandedText text(name);
-        return source_.raise(Event::newGroup, {text.get()});
+        return taken(source_.raise(Event::newGroup, {text.get()}));
     }
     bool BungURL(const std::string& title, const std::string& url) override {
         const HandedText first(title);
         const HandedText second(url);
-        return source_.raise(Event::bungURL, {first.get(), second.get()});
+        return taken(source_.raise(Event::bungURL, {first.get(), second.get()}));
     }
     void storeLastRootOwner() override { source_.raise(Event::storeLastRootOwner, {}); }
 
@@ -150,7 +161,11 @@ private:
     // A file is whatever the user has chosen: what it holds may be more than memory does.
     template <class Reading>
     HRESULT import(HWND owner, Reading reading) {
-        tell(owner, reportOf(countsOf(reading)));
+        try {
+            tell(owner, reportOf(countsOf(reading)));
+        } catch (const Abandoned&) {
+            return S_OK;
+        }
         return S_OK;
     }
 

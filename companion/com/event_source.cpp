@@ -8,7 +8,7 @@ EventSource::~EventSource() {
     for (auto& [cookie, listener] : listeners_) listener->Release();
 }
 
-bool EventSource::raise(DISPID event, const std::vector<BSTR>& texts) {
+HRESULT EventSource::raise(DISPID event, const std::vector<BSTR>& texts) {
     // The last parameter comes first.
     std::vector<VARIANT> handed(texts.size());
     for (std::size_t at = 0; at < texts.size(); ++at) {
@@ -17,14 +17,15 @@ bool EventSource::raise(DISPID event, const std::vector<BSTR>& texts) {
         value.vt = VT_BSTR;
         value.bstrVal = texts[at];
     }
-    bool taken = !listeners_.empty();
+    HRESULT result = listeners_.empty() ? CONNECT_E_NOCONNECTION : S_OK;
     for (auto& [cookie, listener] : std::map(listeners_)) {
         DISPPARAMS parameters{handed.data(), nullptr, static_cast<UINT>(handed.size()), 0};
-        taken = SUCCEEDED(listener->Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
-                                           &parameters, nullptr, nullptr, nullptr)) &&
-                taken;
+        const HRESULT answer =
+            listener->Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                             nullptr, nullptr, nullptr);
+        if (FAILED(answer)) result = answer;
     }
-    return taken;
+    return result;
 }
 
 HRESULT EventSource::QueryInterface(REFIID id, void** object) noexcept {

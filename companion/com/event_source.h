@@ -21,9 +21,9 @@ public:
     EventSource(const EventSource&) = delete;
     EventSource& operator=(const EventSource&) = delete;
 
-    // Tells the listeners of an event with these texts, in the order of its parameters. False when
-    // one of them would not take it, or there is none.
-    bool raise(DISPID event, const std::vector<BSTR>& texts);
+    // Tells the listeners of an event with these texts, in the order of its parameters. What one of
+    // them failed with, or CONNECT_E_NOCONNECTION when there is none.
+    HRESULT raise(DISPID event, const std::vector<BSTR>& texts);
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override;
     ULONG STDMETHODCALLTYPE AddRef() noexcept override { return owner_.AddRef(); }

@@ -19,6 +19,12 @@ bool isLetter(char byte) {
     return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
 }
 
+// Of an attribute's name.
+bool isOfName(char byte) {
+    return isLetter(byte) || (byte >= '0' && byte <= '9') || byte == '_' || byte == '-' ||
+           byte == ':' || byte == '.';
+}
+
 char lowerCase(char byte) {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
 }
@@ -166,17 +172,25 @@ std::size_t HtmlScanner::scriptEnd(std::size_t begin, char quote) {
     return npos;
 }
 
-// Whether the tag ends here, or another attribute with a value begins.
+// Whether the tag ends here, or goes on with attributes, of which those ahead of the first with a
+// value may have none.
 bool HtmlScanner::endsValue(std::size_t behindQuote) const {
-    std::string_view rest = page_.substr(behindQuote, 64);
+    constexpr std::size_t farEnough = 256;
+    std::string_view rest = page_.substr(behindQuote, farEnough);
     const auto skip = [&rest](auto passes) {
+        const std::size_t before = rest.size();
         while (!rest.empty() && passes(rest.front())) rest.remove_prefix(1);
+        return before != rest.size();
     };
-    skip(isBlank);
-    if (rest.starts_with('>') || rest.starts_with("/>")) return true;
-    const std::size_t before = rest.size();
-    skip([](char byte) { return isLetter(byte) || byte == '_' || byte == '-'; });
-    return rest.size() != before && rest.starts_with('=');
+    for (;;) {
+        const bool apart = skip(isBlank);
+        skip([](char byte) { return byte == '/'; });
+        skip(isBlank);
+        if (rest.starts_with('>')) return true;
+        if (!skip(isOfName)) return false;
+        if (rest.starts_with('=')) return true;
+        if (!apart) return false;
+    }
 }
 
 // Stands behind the "<".

@@ -1,8 +1,8 @@
 // user32: windows, messages, focus, timers, menus, message boxes, clipboard.
 //
 // Names, argument order, results and failures are the platform's (Win32 API,
-// user32.dll); only the call from the interface thread is supported. Texts are
-// NUL-terminated ANSI bytes and are copied by the callee.
+// user32.dll); other threads may send and post, all else is for the interface thread.
+// Texts are NUL-terminated ANSI bytes and are copied by the callee.
 #pragma once
 
 #include <span>

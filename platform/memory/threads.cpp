@@ -50,7 +50,7 @@ struct SentMessage {
     LRESULT result = 0;
 };
 
-// Neither is ever destroyed: a thread that is held up for ever looks at them to the end.
+// None of these is ever destroyed: a thread that is held up for ever looks at them to the end.
 Baton& baton() {
     static auto* const theBaton = new Baton;
     return *theBaton;

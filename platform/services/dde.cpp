@@ -1,6 +1,7 @@
 #include "platform/services/dde.h"
 
 #include <memory>
+#include <new>
 
 #include "platform/api/ddeml.h"
 #include "platform/api/kernel32.h"
@@ -139,6 +140,8 @@ void talk(Conversation& conversation) {
             conversation.reply = request(client, connection, item, conversation.timeLeft());
         } catch (const Failure& failed) {
             conversation.failure = failed.number;
+        } catch (const std::bad_alloc&) {  // for a reply without measure
+            conversation.failure = failure::conversationRefused;
         }
         win::SetEvent(conversation.over);
     } catch (const Failure& failed) {

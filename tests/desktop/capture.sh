@@ -17,8 +17,9 @@ choose_from_browser() {
 
 # asked_in_vain: by the key, of the peer.
 asked_in_vain() {
-    captures_nothing keys ctrl+b
-    expect "it was asked" peer_wrote 'request WWW_GetWindowInfo -1'
+    keys ctrl+b
+    expect "it is asked" wait_for 10 peer_wrote 'request WWW_GetWindowInfo -1'
+    captures_nothing true
 }
 
 # captured NAME URL: the dialog shows them; it is accepted.

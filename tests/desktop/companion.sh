@@ -46,9 +46,10 @@ expect_main_held() {
 
 # hundred_thousandths: of a day, since the first day of dates; the time on the clock here.
 hundred_thousandths() {
-    local offset
+    local offset seconds
     offset=$(date +%z)
-    printf '%s' $((($(date +%s) + ${offset:0:3} * 3600 + 25569 * 86400) * 100000 / 86400))
+    seconds=$((10#${offset:1:2} * 3600 + 10#${offset:3:2} * 60))
+    printf '%s' $((($(date +%s) ${offset:0:1} seconds + 25569 * 86400) * 100000 / 86400))
 }
 
 # What the stack file has to be, with "@" in the place of the date of creation.
@@ -56,16 +57,25 @@ group() { printf '+%s\r\n' "$1"; }
 entry() { printf '%s\005%s\0050\005@\0050\0050\0050\r\n' "$@"; }
 
 # created_since TIME: each entry was, and not later than now; a date is a day of four digits and
-# the first five digits of its fraction.
+# the first five digits of its fraction, without zeros at the end and as a number.
 created_since() {
-    local date now at found=0
+    local date now found=0
     now=$(hundred_thousandths)
     for date in $(tr '\005' ' ' <"$folder/Pienest.pns" | sed -nE 's/.* 0 ([0-9A-F]+) 0 0 0\r$/\1/p'); do
-        at=$((16#${date:0:4} * 100000 + 16#${date:4}))
-        ((at >= $1 && at <= now)) || fail "created at $at, not from $1 to $now"
+        is_between "$1" "$now" $((16#${date:0:4} * 100000)) $((16#${date:4})) ||
+            fail "created at $date, not from $1 to $now"
         found=$((found + 1))
     done
     expect_text 4 "$found"
+}
+
+# is_between BEGIN END DAY FRACTION
+is_between() {
+    local zeros
+    for zeros in 1 10 100 1000 10000; do
+        (($3 + $4 * zeros < $1 || $3 + $4 * zeros > $2)) || return 0
+    done
+    return 1
 }
 
 url_file() { printf '[InternetShortcut]\r\nURL=%s\r\n' "$2" >"$1"; }
@@ -195,7 +205,7 @@ start_magpie
 open_by_pad
 choose_settings Merge Favorites "${merge_rows[@]}"
 box_comes Import
-expect_text 'No links were found. 1 file or folder could not be read.' "$(reads box Import)"
+expect_text 'No links were imported. 1 file or folder could not be read.' "$(reads box Import)"
 close_box Import
 choose_tray Unload
 expect_end

@@ -9,6 +9,7 @@ no_viewer() { ! viewer >/dev/null; }
 sheet() { window_titled Preferences; }
 no_sheet() { ! sheet >/dev/null; }
 about() { window_titled 'About Magpie'; }
+about_boxes() { (($(xdotool search --onlyvisible --name '^About Magpie$' | wc -l) == $1)); }
 no_about() { ! about >/dev/null; }
 
 # The viewer says which pages it goes to.
@@ -80,8 +81,10 @@ say "From an about box over another one"
 choose_main About
 expect "the about box comes up" wait_for 10 about
 choose_pad About
-sleep 1
+expect "a second one comes up" wait_for 10 about_boxes 2
+sleep 0.5
 keys Escape
+expect "it goes away" wait_for 10 about_boxes 1
 sleep 0.5
 expect_topic about.html press_about_help
 close_about

@@ -10,6 +10,7 @@
 // clang-format off
 #include <windows.h>
 #include <oleauto.h>
+#include <shlobj.h>
 // clang-format on
 
 namespace magpie {
@@ -226,20 +227,26 @@ TEST_F(TypeLibrary, TheAboutBoxHasItsCallsAndNoEvents) {
 
 // Objects ----------------------------------------------------------------------------------
 
+// Null when it can't be made.
+IDispatch* newObject(const win::CLSID& classId) {
+    HMODULE library = LoadLibraryW(libraryPath().c_str());
+    if (library == nullptr) return nullptr;
+    const auto getClass = reinterpret_cast<LPFNGETCLASSOBJECT>(
+        reinterpret_cast<void (*)()>(GetProcAddress(library, "DllGetClassObject")));
+    IClassFactory* factory = nullptr;
+    if (getClass(native(classId), IID_IClassFactory, reinterpret_cast<void**>(&factory)) != S_OK)
+        return nullptr;
+    IDispatch* made = nullptr;
+    factory->CreateInstance(nullptr, IID_IDispatch, reinterpret_cast<void**>(&made));
+    factory->Release();
+    return made;
+}
+
 class PreferencesObject : public testing::Test {
 public:
     void SetUp() override {
-        HMODULE library = LoadLibraryW(libraryPath().c_str());
-        ASSERT_NE(library, nullptr);
-        const auto getClass = reinterpret_cast<LPFNGETCLASSOBJECT>(
-            reinterpret_cast<void (*)()>(GetProcAddress(library, "DllGetClassObject")));
-        IClassFactory* factory = nullptr;
-        ASSERT_EQ(
-            getClass(native(pienest::gcfg), IID_IClassFactory, reinterpret_cast<void**>(&factory)),
-            S_OK);
-        ASSERT_EQ(factory->CreateInstance(nullptr, IID_IDispatch, reinterpret_cast<void**>(&gcfg)),
-                  S_OK);
-        factory->Release();
+        gcfg = newObject(pienest::gcfg);
+        ASSERT_NE(gcfg, nullptr);
     }
     void TearDown() override {
         if (gcfg != nullptr) gcfg->Release();
@@ -285,6 +292,33 @@ TEST_F(PreferencesObject, KeepsEachSettingAndChangesNoOtherByIt) {
         wanted[static_cast<std::size_t>(member - 1)] = byte ? 3 : -1;
         EXPECT_EQ(all(), wanted);
     }
+}
+
+// A box would wait for its user.
+TEST(ImportObject, ThatNobodyHearsOfEndsWithoutAWord) {
+    wchar_t favorites[MAX_PATH] = L"";
+    ASSERT_TRUE(SHGetSpecialFolderPathW(nullptr, favorites, CSIDL_FAVORITES, TRUE));
+    const std::wstring file = std::wstring(favorites) + L"\\Of nobody.url";
+    const std::string text = "[InternetShortcut]\r\nURL=http://a/\r\n";
+    HANDLE written =
+        CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    ASSERT_NE(written, INVALID_HANDLE_VALUE);
+    DWORD count = 0;
+    WriteFile(written, text.data(), static_cast<DWORD>(text.size()), &count, nullptr);
+    CloseHandle(written);
+
+    IDispatch* import = newObject(pienest::mb);
+    ASSERT_NE(import, nullptr);
+    constexpr DISPID importFavorites = 2;
+    VARIANT window;
+    VariantInit(&window);
+    window.vt = VT_I4;
+    DISPPARAMS handed{&window, nullptr, 1, 0};
+    EXPECT_EQ(import->Invoke(importFavorites, IID_NULL, 0, DISPATCH_METHOD, &handed, nullptr,
+                             nullptr, nullptr),
+              S_OK);
+    import->Release();
+    DeleteFileW(file.c_str());
 }
 
 }  // namespace

@@ -272,6 +272,13 @@ INSTANTIATE_TEST_SUITE_P(
              "<A HREF='javascript:g('x')' ADD_DATE='1'>c</A><A HREF=\"javascript:h('x')\"/>d</A>",
              "+Bookmarks; a|javascript:alert(\"hi\"); b|JavaScript:if(a>1)f(\"b>c\", \"\"); "
              "c|javascript:g('x'); d|javascript:h('x')"},
+        Case{"AttributesBehindAScript",
+             "<A HREF=\"javascript:f()\" PRIVATE TITLE=\"t\">a</A>"
+             "<A HREF=\"javascript:f()\" data-x1=\"y\">b</A>"
+             "<A HREF=\"javascript:f()\" xml:lang=\"de\">c</A><A HREF=\"javascript:f()\" / >d</A>"
+             "<A HREF=\"javascript:f(\" x y\")\" PRIVATE>e</A>",
+             "+Bookmarks; a|javascript:f(); b|javascript:f(); c|javascript:f(); d|javascript:f(); "
+             "e|javascript:f(\" x y\")"},
         Case{"QuoteOfAScriptUnclosed", "<A HREF=\"javascript:f(\"x)\n<A HREF=b>b</A>",
              "+Bookmarks; b|javascript:f("},
         Case{"UnknownTags", "<DL><font><D><A HREF=a>a</A></font></DL>", "+Bookmarks; a|a"}),
