@@ -205,12 +205,16 @@ windows_of() {
     true
 }
 
-# window_titled TITLE: prints the visible window of exactly that title.
+# window_titled TITLE: prints the visible window of exactly that title. Asked again before there is
+# said to be none, as the search also fails when any other window goes away under it.
 window_titled() {
     local window
-    for window in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
-        printf '%s\n' "$window"
-        return 0
+    for _ in 1 2 3; do
+        for window in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
+            printf '%s\n' "$window"
+            return 0
+        done
+        sleep 0.05
     done
     return 1
 }

@@ -61,7 +61,8 @@ entry() { printf '%s\005%s\0050\005@\0050\0050\0050\r\n' "$@"; }
 created_since() {
     local date now found=0
     now=$(hundred_thousandths)
-    for date in $(tr '\005' ' ' <"$folder/Pienest.pns" | sed -nE 's/.* 0 ([0-9A-F]+) 0 0 0\r$/\1/p'); do
+    for date in $(tr '\005' ' ' <"$folder/Pienest.pns" |
+        LC_ALL=C sed -nE 's/.* 0 ([0-9A-F]+) 0 0 0\r$/\1/p'); do
         is_between "$1" "$now" $((16#${date:0:4} * 100000)) $((16#${date:4})) ||
             fail "created at $date, not from $1 to $now"
         found=$((found + 1))
@@ -88,13 +89,15 @@ mkdir -p "$favorites/Deep/Deeper"
 url_file "$favorites/Front page.url" http://server/
 url_file "$favorites/Deep/Deeper/Two.url" http://two/
 printf 'nothing' >"$favorites/Empty.url"
+# Round and round: each folder counts once.
+ln -s ../.. "$favorites/Deep/Deeper/Round"
 cat >"$folder/bookmarks.htm" <<'END'
 <!DOCTYPE NETSCAPE-Bookmark-file-1>
 <DL><p>
     <DT><A HREF="http://top/">Top</A>
     <DT><H3>Folder</H3>
     <DL><p>
-        <DT><A HREF="http://in/?a=1&amp;b=2">In &amp; out</A>
+        <DT><A HREF="http://in/?a=1&amp;b=2">In &amp; out: caf&eacute;</A>
     </DL><p>
 </DL><p>
 END
@@ -155,9 +158,9 @@ expect_end
     group Bookmarks
     entry http://top/ Top
     group Folder
-    entry 'http://in/?a=1&b=2' 'In & out'
+    entry 'http://in/?a=1&b=2' $'In & out: caf\xE9'
 } >"$folder/wanted.pns"
-sed -E 's/^(([^\x05]*\x05){3})[0-9A-F]+\x05/\1@\x05/' "$folder/Pienest.pns" >"$folder/masked.pns"
+LC_ALL=C sed -E 's/^(([^\x05]*\x05){3})[0-9A-F]+\x05/\1@\x05/' "$folder/Pienest.pns" >"$folder/masked.pns"
 expect_same "$folder/wanted.pns" "$folder/masked.pns"
 created_since "$start_time"
 
