@@ -149,11 +149,7 @@ public:
     HRESULT STDMETHODCALLTYPE lastRootOwner(LONG) noexcept override { return S_OK; }
 
 protected:
-    void* otherInterface(REFIID id) noexcept override {
-        return id == IID_IConnectionPointContainer
-                   ? static_cast<IConnectionPointContainer*>(&events_)
-                   : nullptr;
-    }
+    void* otherInterface(REFIID id) noexcept override { return events_.asContainer(id); }
 
 private:
     static ImportOptions options() { return {programCodePage(), platformCodePages()}; }
@@ -163,8 +159,7 @@ private:
     HRESULT import(HWND owner, Reading reading) {
         try {
             tell(owner, reportOf(countsOf(reading)));
-        } catch (const Abandoned&) {
-            return S_OK;
+        } catch (const Abandoned&) {  // so there is nobody to tell either
         }
         return S_OK;
     }

@@ -25,6 +25,11 @@ public:
     // them failed with, or CONNECT_E_NOCONNECTION when there is none.
     HRESULT raise(DISPID event, const std::vector<BSTR>& texts);
 
+    // What an object with these events is asked for besides its own; null for anything else.
+    IConnectionPointContainer* asContainer(REFIID id) noexcept {
+        return id == IID_IConnectionPointContainer ? this : nullptr;
+    }
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override;
     ULONG STDMETHODCALLTYPE AddRef() noexcept override { return owner_.AddRef(); }
     ULONG STDMETHODCALLTYPE Release() noexcept override { return owner_.Release(); }

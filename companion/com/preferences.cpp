@@ -115,11 +115,7 @@ public:
     }
 
 protected:
-    void* otherInterface(REFIID id) noexcept override {
-        return id == IID_IConnectionPointContainer
-                   ? static_cast<IConnectionPointContainer*>(&events_)
-                   : nullptr;
-    }
+    void* otherInterface(REFIID id) noexcept override { return events_.asContainer(id); }
 
 private:
     void edit() {

@@ -62,10 +62,11 @@ set_value() {
 # setting NAME TEXT [TYPE]: one of the program's three records, ID, CF or CH.
 setting() { set_value "$settings_key" "$@"; }
 
-# saved_settings: the program's settings as they are, one "NAME"="TEXT" a line.
+# saved_settings: the program's settings as they are, one "NAME"="TEXT" a line; none where there
+# are none, which is asked again before it is believed.
 saved_settings() {
     local file=$folder.reg
-    wine reg export "$settings_key" "$file" /y >/dev/null 2>&1 </dev/null || return 0
+    wait_for 1 wine reg export "$settings_key" "$file" /y >/dev/null 2>&1 </dev/null || return 0
     iconv -f utf-16 -t utf-8 "$file" | tr -d '\r' | grep '^"' || true
 }
 
